@@ -1,0 +1,263 @@
+#include "books/SummaryBooks.h"
+
+#include "books/LedgerNames.h"
+#include "books/TextFiles.h"
+#include "engine/BalanceCalculation.h"
+#include "engine/RowLayouts.h"
+#include "platform/BlockingServices.h"
+#include "platform/Numbers.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+SummaryBooks::SummaryBooks(const QString& programDataFolder, QObject* parent)
+    : QObject(parent)
+    , LedgerList(u"LedgerList"_s, 1)
+    , accountsBox(u"accountsBox"_s, AccountCol::Count)
+    , transBox(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple)
+    , deletingOn(listboxManager.deletingOn)
+{
+    listboxManager.ProgramDataFolder = programDataFolder;
+    setUpLedgerList(LedgerList);
+    setUpAccountsBox(accountsBox);
+    setUpTransBox(transBox);
+    LedgerList_Open();
+
+    connect(&LedgerList, &Listbox::Change, this, &SummaryBooks::LedgerList_Change);
+    connect(&LedgerList, &Listbox::CellGotFocus, this, &SummaryBooks::LedgerList_CellGotFocus);
+    connect(&LedgerList, &Listbox::CellTextChange, this, &SummaryBooks::LedgerList_CellTextChange);
+    connect(&LedgerList, &Listbox::CellLostFocus, this, &SummaryBooks::LedgerList_CellLostFocus);
+}
+
+QString SummaryBooks::bookListPath() const
+{
+    if (listboxManager.ProgramDataFolder.isEmpty())
+        return {};
+    return QFileInfo(listboxManager.ProgramDataFolder).dir().filePath(u"BookList"_s);
+}
+
+void SummaryBooks::LedgerList_Open()
+{
+    if (const std::optional<QString> content = readTextFile(bookListPath())) {
+        forEachLine(*content, [this](QStringView line) {
+            if (line.isEmpty())
+                return;
+            LedgerList.AddRow(withLedgerPrefix(line.toString()));
+            LedgerList.SetRowPicture(LedgerList.LastIndex(), RowPicture::Book_Icon32);
+        });
+    }
+    LedgerList.SetColumnType(0, Listbox::TypeEditable);
+}
+
+void SummaryBooks::LedgerList_Change()
+{
+    Q_EMIT searchFieldCleared();
+
+    // Put the transactions of the ledger left back as its file has them, and store them.
+    if (!delLedger && !deletingOn) {
+        listboxManager.loadListBox(transBox, transFileName());
+        if (transBox.ListCount() > 0)
+            listboxManager.saveListBox(transBox, transFileName());
+    }
+    if (!theLedger.isEmpty()) {
+        oldLedger = theLedger;
+        if (!deletingOn && accountsBox.ListCount() > 0)
+            listboxManager.saveListBox(accountsBox, accountsFileName());
+    }
+
+    if (LedgerList.ListIndex() > -1) {
+        Q_EMIT importAvailable(true);
+        openABook(LedgerList.Text());
+        theLedger = LedgerList.Text();
+        doCheckboxes();
+    } else {
+        Q_EMIT importAvailable(false);
+        accountsBox.DeleteAllRows();
+        transBox.DeleteAllRows();
+        theLedger.clear();
+    }
+
+    for (Listbox* table : {&transBox, &accountsBox}) {
+        if (table->ListCount() > 0) {
+            table->SetListIndex(0);
+            table->SetListIndex(-1);
+        }
+    }
+    CheckRepeats();
+    showStoredAmountsWithCommas();
+}
+
+void SummaryBooks::showStoredAmountsWithCommas()
+{
+    // The balances shown are those stored until the next calculation, with the
+    // system's decimal mark. The opening amounts keep the form they were stored in.
+    if (separatorType != u"comma")
+        return;
+    for (int r = 0; r < accountsBox.ListCount(); ++r) {
+        accountsBox.SetCell(r, AccountCol::Transactions, cmm(accountsBox.CellView(r, AccountCol::Transactions)));
+        accountsBox.SetCell(r, AccountCol::Balance, cmm(accountsBox.CellView(r, AccountCol::Balance)));
+    }
+    for (int t = 0; t < transBox.ListCount(); ++t)
+        transBox.SetCell(t, TransCol::Transaction, cmm(transBox.CellView(t, TransCol::Transaction)));
+}
+
+void SummaryBooks::LedgerList_CellGotFocus(int, int)
+{
+    oldLedger = theLedger;
+}
+
+void SummaryBooks::LedgerList_CellTextChange(int, int)
+{
+    theLedger = LedgerList.Text();
+}
+
+void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
+{
+    theLedger = withLedgerPrefix(theLedger);
+    QString problem = ledgerNameProblem(theLedger, LedgerList, row);
+    // Saving under a name whose files exist would overwrite another ledger's books.
+    const bool renamed = theLedger.compare(oldLedger, Qt::CaseInsensitive) != 0;
+    if (problem.isEmpty() && renamed && !listboxManager.ProgramDataFolder.isEmpty()) {
+        const QDir folder(listboxManager.ProgramDataFolder);
+        if (folder.exists(accountsFileName()) || folder.exists(transFileName()))
+            problem = u"That ledger name is already in use. Please enter a different name."_s;
+    }
+    if (!problem.isEmpty()) {
+        MsgBox(problem);
+        theLedger = oldLedger;
+        LedgerList.SetCell(row, column, oldLedger);
+        return;
+    }
+
+    LedgerList.SetCell(row, column, theLedger);
+    if (transBox.ListCount() > 0)
+        listboxManager.saveListBox(transBox, transFileName());
+    if (accountsBox.ListCount() > 0)
+        listboxManager.saveListBox(accountsBox, accountsFileName());
+    saveBooks();
+    // A change of case only names the same files on a system that ignores case:
+    // removing "the old ones" there would remove the ledger itself.
+    if (renamed)
+        removeFiles(oldLedger);
+}
+
+void SummaryBooks::openABook(const QString&)
+{
+    if (LedgerList.ListIndex() == -1)
+        return;
+    accountsBox.DeleteAllRows();
+    transBox.DeleteAllRows();
+    const QString name = LedgerList.Text();
+    listboxManager.loadListBox(accountsBox, name + u"AccountData"_s);
+    listboxManager.loadListBox(transBox, name + u"TransData"_s);
+}
+
+void SummaryBooks::saveBooks()
+{
+    const QString path = bookListPath();
+    if (path.isEmpty())
+        return;
+    QString content;
+    for (int row = 0; row < LedgerList.ListCount(); ++row) {
+        content += LedgerList.CellView(row, 0);
+        content += u'\n';
+    }
+    writeTextFile(path, content);
+}
+
+void SummaryBooks::removeFiles(const QString& name)
+{
+    if (listboxManager.ProgramDataFolder.isEmpty())
+        return;
+    QDir folder(listboxManager.ProgramDataFolder);
+    for (const QString& fileName : {name + u"AccountData"_s, name + u"TransData"_s}) {
+        if (folder.exists(fileName))
+            folder.remove(fileName);
+    }
+}
+
+bool SummaryBooks::addLedger(const QString& typedName)
+{
+    const QString name = kLedgerPrefix + typedName;
+    if (const QString problem = ledgerNameProblem(name, LedgerList, -1); !problem.isEmpty()) {
+        MsgBox(problem);
+        return false;
+    }
+    accountsBox.DeleteAllRows();
+    transBox.DeleteAllRows();
+    LedgerList.AddRow(name);
+    LedgerList.SetRowPicture(LedgerList.LastIndex(), RowPicture::Book_Icon32);
+    LedgerList.SetListIndex(LedgerList.LastIndex());
+    return true;
+}
+
+void SummaryBooks::deleteLedger()
+{
+    if (LedgerList.ListIndex() == -1)
+        return;
+    MessageDialog dialog;
+    dialog.Message = u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?"_s;
+    dialog.Explanation = u"This action cannot be undone."_s;
+    dialog.ActionButton = u"Delete"_s;
+    dialog.CancelButton = u"Cancel"_s;
+    if (dialog.ShowModal() != MessageDialog::Button::Action)
+        return;
+
+    deletingOn = true;
+    delLedger = true;
+    accountsBox.DeleteAllRows();
+    transBox.DeleteAllRows();
+    removeFiles(theLedger);
+    LedgerList.RemoveRow(LedgerList.ListIndex());
+    saveBooks();
+    delLedger = false;
+    deletingOn = false;
+}
+
+void SummaryBooks::probeSeparator()
+{
+    separatorType = Format(1234.0, u"########0.00").contains(u',') ? u"comma"_s : u"period"_s;
+}
+
+void SummaryBooks::calcAll()
+{
+    if (LedgerList.ListIndex() == -1)
+        return;
+    const BalanceTotals totals = calculateBalances(accountsBox, transBox, reconcileOn_);
+    taxText = Str(totals.tax);
+    balText = Str(totals.transactions);
+    Q_EMIT totalsChanged();
+    writeSeconds(transBox);
+
+    // The files get the plain sums; the padding and the comma are for the screen.
+    if (LedgerList.ListIndex() != -1) {
+        listboxManager.saveListBox(accountsBox, accountsFileName());
+        listboxManager.saveListBox(transBox, transFileName());
+    }
+    padAmounts(accountsBox, transBox);
+    if (separatorType == u"comma")
+        showDecimalCommas(accountsBox, transBox);
+}
+
+void SummaryBooks::doCheckboxes()
+{
+    for (int t = 0; t < transBox.ListCount(); ++t) {
+        if (isWord(transBox.CellView(t, TransCol::Reconciled), u"true"))
+            transBox.SetCellCheck(t, TransCol::Account, true);
+    }
+}
+
+void SummaryBooks::CheckRepeats()
+{
+    // Repeating transactions are posted here once they can be entered.
+}
+
+void SummaryBooks::reconcilecheckbox_Action(bool checked)
+{
+    reconcileOn_ = checked;
+    if (!checked && accountsBox.ListCount() > 0)
+        calcAll();
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "books/rowtable/Listbox.h"
+#include "books/rowtable/ListboxManager.h"
+
+#include <QObject>
+#include <QString>
+
+// The working data of the main window and the operations on it, without any
+// widget: the ledger list, the accounts and transactions of the open ledger, the
+// files they live in, and the balance calculation that keeps the figures and the
+// files in step. The main window shows these tables; a command line can run the
+// same operations with no display.
+class SummaryBooks : public QObject {
+    Q_OBJECT
+
+public:
+    // programDataFolder is the folder "Books"; the ledger list lives in its parent.
+    // An empty folder means none could be made: nothing is read or written.
+    explicit SummaryBooks(const QString& programDataFolder, QObject* parent = nullptr);
+
+    Listbox LedgerList;
+    Listbox accountsBox;
+    Listbox transBox;
+    ListboxManager listboxManager;
+
+    QString theLedger;    // the open ledger; while its row is edited, the text typed
+    QString oldLedger;    // the ledger before the rename or change under way
+    bool delLedger = false;
+    bool& deletingOn;     // set while a deletion runs: no table is saved
+    QString separatorType = QStringLiteral("period"); // "comma" on a system with a decimal comma
+    QString taxText = QStringLiteral("00.00");        // totals of the last calculation
+    QString balText = QStringLiteral("00.00");
+
+    // --- ledger list ---
+    void LedgerList_Open();
+    void LedgerList_Change();
+    void LedgerList_CellGotFocus(int row, int column);
+    void LedgerList_CellTextChange(int row, int column);
+    void LedgerList_CellLostFocus(int row, int column);
+
+    // After a ledger was opened on a comma system: the stored Transactions and
+    // Balance of the accounts and the transactions' totals show ",".
+    void showStoredAmountsWithCommas();
+    // Loads the selected ledger's two files into accountsBox and transBox.
+    void openABook(const QString& name);
+    // Writes the ledger list to "BookList".
+    void saveBooks();
+    // Deletes the files of a ledger.
+    void removeFiles(const QString& name);
+
+    // A new ledger from the name typed (without the two blanks): added to the
+    // list, selected and opened. A name that can't be used is refused with a
+    // message and false, and nothing changes.
+    bool addLedger(const QString& typedName);
+    // Deletes the selected ledger with its files after the user's confirmation.
+    void deleteLedger();
+
+    // --- figures ---
+    // Finds the decimal mark of the system once, as the window opens.
+    void probeSeparator();
+    // Recomputes every account of the open ledger and stores both tables.
+    void calcAll();
+    // Sets the reconcile boxes of transBox from their stored column.
+    void doCheckboxes();
+    // Posts the repeating transactions that are due.
+    void CheckRepeats();
+    // Whether only reconciled transactions count (the window's reconcile box).
+    bool reconcileOn() const { return reconcileOn_; }
+    void reconcilecheckbox_Action(bool checked);
+
+    QString accountsFileName() const { return theLedger + QStringLiteral("AccountData"); }
+    QString transFileName() const { return theLedger + QStringLiteral("TransData"); }
+    QString bookListPath() const;
+
+Q_SIGNALS:
+    void searchFieldCleared();
+    void importAvailable(bool available);
+    void totalsChanged();
+
+private:
+    bool reconcileOn_ = false;
+};

@@ -1,0 +1,324 @@
+#include "books/rowtable/Listbox.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QStringView kSeparator = u"@#@";
+constexpr qsizetype kSeparatorSize = 3;
+
+} // namespace
+
+Listbox::Row::Row(const QStringView* cells, int cellCount, int columnCount)
+{
+    qsizetype length = columnCount * kSeparatorSize;
+    for (int c = 0; c < cellCount && c < columnCount; ++c)
+        length += cells[c].size();
+    text_.reserve(length);
+    starts_.resize(columnCount);
+    for (int c = 0; c < columnCount; ++c) {
+        if (c < cellCount)
+            text_.append(cells[c]);
+        text_.append(kSeparator);
+        starts_[c] = quint32(text_.size());
+    }
+}
+
+QStringView Listbox::Row::cell(int column) const
+{
+    const int count = cellCount();
+    if (column < 0 || column > count)
+        return {};
+    const qsizetype start = column == 0 ? 0 : starts_[column - 1];
+    const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
+    return QStringView(text_).mid(start, end - start);
+}
+
+void Listbox::Row::assignCell(int column, QStringView text)
+{
+    const int count = cellCount();
+    const qsizetype start = column == 0 ? 0 : starts_[column - 1];
+    const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
+    const qsizetype delta = text.size() - (end - start);
+    text_.replace(start, end - start, text.data(), text.size());
+    for (int c = column; c < count; ++c)
+        starts_[c] = quint32(starts_[c] + delta);
+}
+
+Listbox::Listbox(const QString& name, int columnCount, SelectionType selection, QObject* parent)
+    : QObject(parent)
+    , name_(name)
+    , columnCount_(std::clamp(columnCount, 1, 31))
+    , selection_(selection)
+{
+    setObjectName(name);
+}
+
+void Listbox::AddRow(QStringView text)
+{
+    const int row = ListCount();
+    Q_EMIT rowsAboutToBeAdded(row, row);
+    rows_.emplace_back(&text, 1, columnCount_);
+    lastIndex_ = row;
+    Q_EMIT rowsAdded();
+}
+
+void Listbox::RemoveRow(int row)
+{
+    if (!validRow(row))
+        return;
+    const bool wasSelected = rows_[row].selected_;
+    Q_EMIT rowsAboutToBeRemoved(row, row);
+    rows_.erase(rows_.begin() + row);
+    if (lastIndex_ == row)
+        lastIndex_ = -1;
+    else if (lastIndex_ > row)
+        --lastIndex_;
+    if (wasSelected) {
+        --selectedCount_;
+        if (row == firstSelected_)
+            recomputeFirstSelected();
+    } else if (row < firstSelected_) {
+        --firstSelected_;
+    }
+    Q_EMIT rowsRemoved();
+    if (wasSelected)
+        notifySelection();
+}
+
+void Listbox::DeleteAllRows()
+{
+    replaceAllRows({});
+}
+
+void Listbox::replaceAllRows(std::vector<Row> rows)
+{
+    const bool hadSelection = selectedCount_ > 0;
+    Q_EMIT aboutToReset();
+    rows_ = std::move(rows);
+    for (Row& row : rows_)
+        row.selected_ = false;
+    lastIndex_ = ListCount() - 1;
+    firstSelected_ = -1;
+    selectedCount_ = 0;
+    Q_EMIT resetDone();
+    if (hadSelection)
+        notifySelection();
+}
+
+QStringView Listbox::CellView(int row, int column) const
+{
+    return validCell(row, column) ? rows_[row].cell(column) : QStringView();
+}
+
+void Listbox::SetCell(int row, int column, QStringView text)
+{
+    if (!validCell(row, column))
+        return;
+    Row& r = rows_[row];
+    if (r.cell(column) == text)
+        return;
+    r.assignCell(column, text);
+    Q_EMIT cellChanged(row, column);
+}
+
+QStringView Listbox::storedLine(int row) const
+{
+    if (!validRow(row))
+        return {};
+    const Row& r = rows_[row];
+    return QStringView(r.text_).left(r.starts_[columnCount_ - 1]);
+}
+
+void Listbox::SetListIndex(int row)
+{
+    if (row < -1 || row >= ListCount())
+        return;
+    const bool unchanged = row < 0 ? selectedCount_ == 0
+                                   : selectedCount_ == 1 && rows_[row].selected_;
+    if (unchanged)
+        return;
+    clearSelectionFlags();
+    if (row >= 0) {
+        rows_[row].selected_ = true;
+        selectedCount_ = 1;
+    }
+    firstSelected_ = row;
+    notifySelection();
+}
+
+bool Listbox::Selected(int row) const
+{
+    return validRow(row) && rows_[row].selected_;
+}
+
+void Listbox::SetSelected(int row, bool selected)
+{
+    if (!validRow(row) || rows_[row].selected_ == selected)
+        return;
+    if (selection_ == SelectionType::Single) {
+        SetListIndex(selected ? row : -1);
+        return;
+    }
+    rows_[row].selected_ = selected;
+    if (selected) {
+        ++selectedCount_;
+        if (firstSelected_ < 0 || row < firstSelected_)
+            firstSelected_ = row;
+    } else {
+        --selectedCount_;
+        if (row == firstSelected_)
+            recomputeFirstSelected();
+    }
+    notifySelection();
+}
+
+void Listbox::setSelectedRows(const std::vector<int>& rows)
+{
+    std::vector<int> wanted;
+    for (int row : rows)
+        if (validRow(row))
+            wanted.push_back(row);
+    std::sort(wanted.begin(), wanted.end());
+    wanted.erase(std::unique(wanted.begin(), wanted.end()), wanted.end());
+    if (selection_ == SelectionType::Single && wanted.size() > 1)
+        wanted.resize(1);
+
+    bool same = int(wanted.size()) == selectedCount_;
+    for (int row : wanted)
+        same = same && rows_[row].selected_;
+    if (same)
+        return;
+    clearSelectionFlags();
+    for (int row : wanted)
+        rows_[row].selected_ = true;
+    selectedCount_ = int(wanted.size());
+    firstSelected_ = wanted.empty() ? -1 : wanted.front();
+    notifySelection();
+}
+
+void Listbox::clearSelectionFlags()
+{
+    for (int row = std::max(firstSelected_, 0); row < ListCount() && selectedCount_ > 0; ++row) {
+        if (rows_[row].selected_) {
+            rows_[row].selected_ = false;
+            --selectedCount_;
+        }
+    }
+    selectedCount_ = 0;
+    firstSelected_ = -1;
+}
+
+void Listbox::recomputeFirstSelected()
+{
+    firstSelected_ = -1;
+    if (selectedCount_ == 0)
+        return;
+    for (int row = 0; row < ListCount(); ++row) {
+        if (rows_[row].selected_) {
+            firstSelected_ = row;
+            return;
+        }
+    }
+}
+
+void Listbox::notifySelection()
+{
+    Q_EMIT selectionChanged();
+    Q_EMIT Change();
+}
+
+bool Listbox::CellCheck(int row, int column) const
+{
+    return validRow(row) && validFlagColumn(column) && (rows_[row].checks_ >> column & 1u);
+}
+
+void Listbox::SetCellCheck(int row, int column, bool checked)
+{
+    if (!validRow(row) || !validFlagColumn(column) || CellCheck(row, column) == checked)
+        return;
+    rows_[row].checks_ ^= 1u << column;
+    Q_EMIT cellChanged(row, column);
+}
+
+bool Listbox::CellBold(int row, int column) const
+{
+    return validRow(row) && validFlagColumn(column) && (rows_[row].bolds_ >> column & 1u);
+}
+
+void Listbox::SetCellBold(int row, int column, bool bold)
+{
+    if (!validRow(row) || !validFlagColumn(column) || CellBold(row, column) == bold)
+        return;
+    rows_[row].bolds_ ^= 1u << column;
+    Q_EMIT cellChanged(row, column);
+}
+
+RowPicture Listbox::rowPicture(int row) const
+{
+    return validRow(row) ? rows_[row].picture_ : RowPicture::None;
+}
+
+void Listbox::SetRowPicture(int row, RowPicture picture)
+{
+    if (!validRow(row) || rows_[row].picture_ == picture)
+        return;
+    rows_[row].picture_ = picture;
+    Q_EMIT cellChanged(row, 0);
+}
+
+template <typename T>
+T Listbox::settingOf(const std::vector<T>& settings, int column, T fallback)
+{
+    return column >= 0 && column < int(settings.size()) ? settings[column] : fallback;
+}
+
+template <typename T>
+void Listbox::setSetting(std::vector<T>& settings, int column, T value, T fallback)
+{
+    if (column < 0 || column > 31)
+        return;
+    if (column >= int(settings.size()))
+        settings.resize(column + 1, fallback);
+    settings[column] = std::move(value);
+}
+
+int Listbox::ColumnType(int column) const { return settingOf(columnTypes_, column, int(TypeDefault)); }
+void Listbox::SetColumnType(int column, int type) { setSetting(columnTypes_, column, type, int(TypeDefault)); }
+int Listbox::ColumnAlignment(int column) const { return settingOf(alignments_, column, int(AlignDefault)); }
+void Listbox::SetColumnAlignment(int column, int alignment) { setSetting(alignments_, column, alignment, int(AlignDefault)); }
+int Listbox::ColumnAlignmentOffset(int column) const { return settingOf(alignmentOffsets_, column, 0); }
+void Listbox::SetColumnAlignmentOffset(int column, int pixels) { setSetting(alignmentOffsets_, column, pixels, 0); }
+QString Listbox::Heading(int column) const { return settingOf(headings_, column, QString()); }
+void Listbox::SetHeading(int column, const QString& heading) { setSetting(headings_, column, heading, QString()); }
+double Listbox::columnWidthPercent(int column) const { return settingOf(widths_, column, -1.0); }
+void Listbox::setColumnWidthPercent(int column, double percent) { setSetting(widths_, column, percent, -1.0); }
+
+void Listbox::SortRows(int column, Qt::SortOrder order)
+{
+    if (column < 0 || column >= columnCount_ || ListCount() < 2)
+        return;
+    Q_EMIT aboutToReset();
+    std::stable_sort(rows_.begin(), rows_.end(), [column, order](const Row& a, const Row& b) {
+        const int c = a.cell(column).compare(b.cell(column), Qt::CaseInsensitive);
+        return order == Qt::AscendingOrder ? c < 0 : c > 0;
+    });
+    recomputeFirstSelected();
+    Q_EMIT resetDone();
+}
+
+void Listbox::userToggledCheck(int row, int column)
+{
+    if (!validRow(row) || !validFlagColumn(column))
+        return;
+    SetCellCheck(row, column, !CellCheck(row, column));
+    Q_EMIT CellAction(row, column);
+}
+
+void Listbox::userEditedCell(int row, int column, const QString& text)
+{
+    if (!validCell(row, column))
+        return;
+    SetCell(row, column, text);
+    Q_EMIT CellTextChange(row, column);
+}

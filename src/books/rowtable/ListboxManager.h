@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+class Listbox;
+
+// Saves a row table to its file in the ledger folder and loads it back.
+//
+// A table file holds one line a row; a line is every cell of the row followed by
+// "@#@" (hidden cell and column count not included), UTF-8, ending in "\n". There is
+// no escaping: a cell holding "@#@" or a line break doesn't survive a reload.
+class ListboxManager {
+public:
+    // The folder "Books" that file names are resolved in; empty while there is none.
+    QString ProgramDataFolder;
+    // Set while a deletion runs: every save is skipped.
+    bool deletingOn = false;
+
+    // Rewrites the file from the table. The old file is replaced in one step, so a
+    // failed save leaves it as it was. Nothing is reported.
+    void saveListBox(const Listbox& table, const QString& fileName) const;
+    // Fills the table from the file. A file that is missing or can't be read
+    // leaves the table as it was. Blank lines are skipped, column 0 of every row
+    // starts empty, missing cells read "", fields beyond the last column are ignored.
+    // Rows of an "AccountData" file get their account pictures; the dates of
+    // transBox are rewritten to year-month-day.
+    void loadListBox(Listbox& table, const QString& fileName) const;
+    // Rewrites every date of transBox in column 2 that ParseDate reads into its
+    // SQLDate form; other texts stay. Does nothing to any other table.
+    static void convertToSQLdate(Listbox& table);
+
+private:
+    QString pathOf(const QString& fileName) const;
+};

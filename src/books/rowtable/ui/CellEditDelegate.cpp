@@ -1,0 +1,58 @@
+#include "books/rowtable/ui/CellEditDelegate.h"
+
+#include "books/rowtable/Listbox.h"
+
+#include <QLineEdit>
+#include <QPersistentModelIndex>
+
+namespace {
+const char* const kOriginalText = "quillmarkOriginalText";
+const char* const kCellIndex = "quillmarkCellIndex";
+} // namespace
+
+CellEditDelegate::CellEditDelegate(Listbox& table, QObject* parent)
+    : QStyledItemDelegate(parent)
+    , table_(table)
+{
+}
+
+QWidget* CellEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    auto* editor = new QLineEdit(parent);
+    editor->setFrame(false);
+    const int row = index.row();
+    const int column = index.column();
+    editor->setProperty(kOriginalText, table_.Cell(row, column));
+    editor->setProperty(kCellIndex, QVariant::fromValue(QPersistentModelIndex(index)));
+    connect(editor, &QLineEdit::textEdited, editor, [this, editor](const QString& text) {
+        const auto cell = editor->property(kCellIndex).value<QPersistentModelIndex>();
+        if (cell.isValid())
+            table_.userEditedCell(cell.row(), cell.column(), text);
+    });
+    table_.userBeganEdit(row, column);
+    return editor;
+}
+
+void CellEditDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    // Every keystroke reached the cell already; only a text put in by other means
+    // (a paste from a menu) still has to.
+    const QString text = static_cast<QLineEdit*>(editor)->text();
+    if (text != table_.CellView(index.row(), index.column()))
+        model->setData(index, text, Qt::EditRole);
+}
+
+void CellEditDelegate::destroyEditor(QWidget* editor, const QModelIndex& index) const
+{
+    QStyledItemDelegate::destroyEditor(editor, index);
+    if (index.isValid())
+        table_.userEndedEdit(index.row(), index.column());
+}
+
+void CellEditDelegate::revert(QWidget* editor) const
+{
+    const auto cell = editor->property(kCellIndex).value<QPersistentModelIndex>();
+    const QString original = editor->property(kOriginalText).toString();
+    if (cell.isValid() && original != table_.CellView(cell.row(), cell.column()))
+        table_.userEditedCell(cell.row(), cell.column(), original);
+}

@@ -1,0 +1,140 @@
+#include "books/rowtable/ui/ListboxView.h"
+
+#include "books/rowtable/Listbox.h"
+#include "books/rowtable/ListboxModel.h"
+#include "books/rowtable/ui/CellEditDelegate.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QTimer>
+
+ListboxView::ListboxView(Listbox& table, QWidget* parent)
+    : QTableView(parent)
+    , table_(table)
+    , model_(new ListboxModel(table, this))
+{
+    setObjectName(table.Name());
+    setModel(model_);
+    setItemDelegate(new CellEditDelegate(table, this));
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(table.selectionType() == Listbox::SelectionType::Multiple ? QAbstractItemView::ExtendedSelection
+                                                                               : QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+    setShowGrid(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListboxView::takeViewSelection);
+    // The table's selection may change many times within one operation; the grid
+    // shows where it ended.
+    auto scheduleSync = [this] {
+        if (selectionSyncPending_)
+            return;
+        selectionSyncPending_ = true;
+        QTimer::singleShot(0, this, &ListboxView::showTableSelection);
+    };
+    connect(&table, &Listbox::selectionChanged, this, scheduleSync);
+    connect(&table, &Listbox::resetDone, this, scheduleSync);
+    connect(this, &QAbstractItemView::doubleClicked, this, [this] { table_.userDoubleClicked(); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &ListboxView::headerPressed);
+    applyColumnSettings();
+}
+
+void ListboxView::setDefaultRowHeight(int pixels)
+{
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(pixels);
+}
+
+void ListboxView::setSortable(bool sortable)
+{
+    sortable_ = sortable;
+    horizontalHeader()->setSortIndicatorShown(sortable);
+}
+
+void ListboxView::applyColumnSettings()
+{
+    horizontalHeader()->setVisible(table_.HasHeading());
+    applyColumnWidths();
+}
+
+void ListboxView::applyColumnWidths()
+{
+    const int available = viewport()->width();
+    for (int column = 0; column < table_.ColumnCount(); ++column) {
+        const double percent = table_.columnWidthPercent(column);
+        const bool hidden = percent <= 0 && table_.ColumnCount() > 1;
+        setColumnHidden(column, hidden);
+        if (!hidden)
+            setColumnWidth(column, table_.ColumnCount() == 1 ? available : int(available * percent / 100.0));
+    }
+}
+
+void ListboxView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    applyColumnWidths();
+}
+
+void ListboxView::showTableSelection()
+{
+    selectionSyncPending_ = false;
+    QItemSelection wanted;
+    const int lastColumn = model_->columnCount() - 1;
+    for (int row = 0; row < table_.ListCount(); ++row) {
+        if (!table_.Selected(row))
+            continue;
+        int end = row;
+        while (end + 1 < table_.ListCount() && table_.Selected(end + 1))
+            ++end;
+        wanted.select(model_->index(row, 0), model_->index(end, lastColumn));
+        row = end;
+    }
+    syncing_ = true;
+    selectionModel()->select(wanted, QItemSelectionModel::ClearAndSelect);
+    if (table_.ListIndex() >= 0)
+        selectionModel()->setCurrentIndex(model_->index(table_.ListIndex(), 0), QItemSelectionModel::NoUpdate);
+    syncing_ = false;
+}
+
+void ListboxView::takeViewSelection()
+{
+    if (syncing_)
+        return;
+    std::vector<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        rows.push_back(index.row());
+    table_.setSelectedRows(rows);
+}
+
+void ListboxView::mousePressEvent(QMouseEvent* event)
+{
+    // A click below the last row takes the selection away.
+    if (!indexAt(event->position().toPoint()).isValid()) {
+        setFocus(Qt::MouseFocusReason);
+        table_.setSelectedRows({});
+        return;
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void ListboxView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (hint == QAbstractItemDelegate::RevertModelCache)
+        static_cast<CellEditDelegate*>(itemDelegate())->revert(editor);
+    QTableView::closeEditor(editor, hint);
+}
+
+void ListboxView::headerPressed(int column)
+{
+    table_.userPressedHeading(column);
+    if (!sortable_)
+        return;
+    sortOrder_ = column == sortColumn_ && sortOrder_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortColumn_ = column;
+    horizontalHeader()->setSortIndicator(column, sortOrder_);
+    table_.SortRows(column, sortOrder_);
+}

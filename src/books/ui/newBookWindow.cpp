@@ -1,0 +1,71 @@
+#include "books/ui/newBookWindow.h"
+
+#include "books/ui/Windows.h"
+#include "mainwindow/SummaryWindow.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+::newBookWindow* Windows::newBookWindow()
+{
+    static QPointer<::newBookWindow> instance;
+    return accessWindow(instance);
+}
+
+newBookWindow::newBookWindow()
+    : QDialog(Windows::SummaryWindow())
+{
+    setObjectName(u"newBookWindow"_s);
+    setWindowTitle(u"New Ledger"_s);
+    setWindowModality(Qt::WindowModal);
+    setFixedSize(300, 102);
+
+    StaticText1 = new QLabel(u"New Ledger Name:"_s, this);
+    EditField1 = new QLineEdit(this);
+    EditField1->setObjectName(u"EditField1"_s);
+    PushButton1 = new QPushButton(u"OK"_s, this);
+    PushButton1->setObjectName(u"PushButton1"_s);
+    PushButton1->setDefault(true);
+    PushButton1->setEnabled(false);
+    PushButton2 = new QPushButton(u"Cancel"_s, this);
+    PushButton2->setObjectName(u"PushButton2"_s);
+
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(StaticText1, 0, 0);
+    layout->addWidget(EditField1, 0, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(PushButton2);
+    buttons->addWidget(PushButton1);
+    layout->addLayout(buttons, 1, 0, 1, 2);
+
+    EditField1->installEventFilter(this);
+    connect(PushButton1, &QPushButton::clicked, this, &newBookWindow::PushButton1_Action);
+    connect(PushButton2, &QPushButton::clicked, this, &QDialog::close);
+}
+
+bool newBookWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    // OK follows the field as it stands before the key takes effect.
+    if (watched == EditField1 && event->type() == QEvent::KeyPress)
+        PushButton1->setEnabled(!EditField1->text().isEmpty());
+    return QDialog::eventFilter(watched, event);
+}
+
+void newBookWindow::PushButton1_Action()
+{
+    ::SummaryWindow* summary = Windows::SummaryWindow();
+    if (!summary->books().addLedger(EditField1->text())) {
+        EditField1->setFocus();
+        return;
+    }
+    summary->makeNewAccount();
+    summary->books().saveBooks();
+    close();
+}

@@ -1,0 +1,15 @@
+#include "books/ui/App.h"
+#include "platform/ui/DesktopServices.h"
+
+#include <QApplication>
+#include <QTimer>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillmark"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    installDesktopServices();
+    QTimer::singleShot(0, &App::Event_Open);
+    return application.exec();
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+// The services that wait for the user or leave the program: message box,
+// confirmation dialog, beep, web browser, quit. Each goes through one replaceable
+// hook, so the windows install the real dialogs and a test scripts the answers and
+// records what was shown. Without the windows' hooks, messages go to stderr and a
+// confirmation is always answered "Cancel": nothing irreversible happens unasked.
+
+struct MessageDialog {
+    QString Message;
+    QString Explanation;
+    QString ActionButton = QStringLiteral("OK");
+    QString CancelButton;           // empty: no cancel button
+    QString AlternateActionButton;  // empty: no alternate button
+
+    enum class Button { Action, Cancel, Alternate };
+    Button ShowModal() const;
+};
+
+struct BlockingServiceHooks {
+    std::function<void(const QString& message)> msgBox;
+    std::function<MessageDialog::Button(const MessageDialog&)> messageDialog;
+    std::function<void()> beep;
+    std::function<void(const QString& url)> showUrl;
+    std::function<void()> quit;
+};
+
+// Installs hooks (an empty function keeps the current one) and returns the
+// previous set, so a caller can put it back.
+BlockingServiceHooks installBlockingServices(const BlockingServiceHooks& hooks);
+const BlockingServiceHooks& blockingServices();
+
+void MsgBox(const QString& message);
+void Beep();
+void ShowURL(const QString& url);
+void Quit();

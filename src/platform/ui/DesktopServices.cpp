@@ -1,0 +1,54 @@
+#include "platform/ui/DesktopServices.h"
+
+#include "platform/BlockingServices.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+QWidget* dialogParent()
+{
+    return QApplication::activeWindow();
+}
+
+MessageDialog::Button showMessageDialog(const MessageDialog& dialog)
+{
+    QMessageBox box(dialogParent());
+    box.setIcon(QMessageBox::Warning);
+    box.setText(dialog.Message);
+    box.setInformativeText(dialog.Explanation);
+    QPushButton* action = box.addButton(dialog.ActionButton, QMessageBox::AcceptRole);
+    QPushButton* cancel = nullptr;
+    QPushButton* alternate = nullptr;
+    if (!dialog.CancelButton.isEmpty())
+        cancel = box.addButton(dialog.CancelButton, QMessageBox::RejectRole);
+    if (!dialog.AlternateActionButton.isEmpty())
+        alternate = box.addButton(dialog.AlternateActionButton, QMessageBox::DestructiveRole);
+    // The safe answer is the one Return gives.
+    box.setDefaultButton(cancel ? cancel : action);
+    box.setEscapeButton(cancel ? cancel : action);
+    box.exec();
+    if (box.clickedButton() == action)
+        return MessageDialog::Button::Action;
+    if (alternate && box.clickedButton() == alternate)
+        return MessageDialog::Button::Alternate;
+    return MessageDialog::Button::Cancel;
+}
+
+} // namespace
+
+void installDesktopServices()
+{
+    BlockingServiceHooks hooks;
+    hooks.msgBox = [](const QString& message) {
+        QMessageBox box(dialogParent());
+        box.setText(message);
+        box.setStandardButtons(QMessageBox::Ok);
+        box.exec();
+    };
+    hooks.messageDialog = showMessageDialog;
+    hooks.beep = [] { QApplication::beep(); };
+    installBlockingServices(hooks);
+}

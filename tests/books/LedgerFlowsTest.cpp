@@ -1,0 +1,270 @@
+#include "books/SummaryBooks.h"
+#include "support/DataFolder.h"
+#include "support/ScriptedPlatform.h"
+
+#include <QDir>
+#include <QMap>
+#include <QSignalBlocker>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Folder = QMap<QString, QByteArray>;
+
+// Two ledgers on disk, as a user left them.
+class LedgerFlowsTest : public ::testing::Test {
+protected:
+    LedgerFlowsTest()
+    {
+        home.makeFolders();
+        writeBytes(bookList(), "  Shop\n  Home\n");
+        writeBook(u"  ShopAccountData"_s, "999@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@@#@\n");
+        writeBook(u"  ShopTransData"_s, "7@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n");
+        writeBook(u"  HomeAccountData"_s, "@#@Balance@#@@#@50.00@#@0@#@50@#@@#@\n");
+        writeBook(u"  HomeTransData"_s, "");
+    }
+
+    QString bookList() const { return home.quillmark() + u"/BookList"_s; }
+    QString book(const QString& name) const { return home.books() + u'/' + name; }
+    void writeBook(const QString& name, const QByteArray& bytes) const { writeBytes(book(name), bytes); }
+
+    // Everything in the folder "Quillmark", byte for byte.
+    Folder snapshot() const
+    {
+        Folder files;
+        files.insert(u"BookList"_s, readBytes(bookList()));
+        for (const QString& name : QDir(home.books()).entryList(QDir::Files))
+            files.insert(name, readBytes(book(name)));
+        return files;
+    }
+
+    QStringList ledgerNames(const SummaryBooks& books) const
+    {
+        QStringList names;
+        for (int row = 0; row < books.LedgerList.ListCount(); ++row)
+            names << books.LedgerList.Cell(row, 0);
+        return names;
+    }
+
+    // The user edits the selected ledger's cell in place.
+    void renameSelected(SummaryBooks& books, const QString& text) const
+    {
+        const int row = books.LedgerList.ListIndex();
+        books.LedgerList.userBeganEdit(row, 0);
+        books.LedgerList.userEditedCell(row, 0, text);
+        books.LedgerList.userEndedEdit(row, 0);
+    }
+
+    TempDataHome home;
+    ScriptedPlatform platform;
+};
+
+} // namespace
+
+TEST_F(LedgerFlowsTest, ReadsTheListWithNoLedgerOpen)
+{
+    writeBytes(bookList(), "Shop\r\n\r\n  Home\n\n");
+    SummaryBooks books(home.books());
+    EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s}));
+    EXPECT_EQ(books.LedgerList.rowPicture(0), RowPicture::Book_Icon32);
+    EXPECT_EQ(books.LedgerList.ListIndex(), -1);
+    EXPECT_EQ(books.accountsBox.ListCount(), 0);
+
+    books.saveBooks();
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n")) << "the blanks are written back";
+}
+
+TEST_F(LedgerFlowsTest, SelectingTouchesNoFileWhenNoneWasOpen)
+{
+    const Folder before = snapshot();
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+
+    EXPECT_EQ(books.theLedger, u"  Shop");
+    EXPECT_EQ(books.accountsBox.ListCount(), 2);
+    EXPECT_EQ(books.accountsBox.Cell(0, 0), u"") << "column 0 starts empty after a load";
+    ASSERT_EQ(books.transBox.ListCount(), 1);
+    EXPECT_EQ(books.transBox.Cell(0, 3), u"Sale");
+    EXPECT_TRUE(books.transBox.CellCheck(0, 1)) << "reconcile boxes come from the stored column";
+    EXPECT_EQ(books.transBox.ListIndex(), -1);
+    EXPECT_EQ(books.accountsBox.ListIndex(), -1);
+    EXPECT_EQ(snapshot(), before);
+}
+
+TEST_F(LedgerFlowsTest, SwitchingStoresTheLedgerLeft)
+{
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+    books.accountsBox.SetCell(1, 6, u"a note");         // saved on leaving
+    books.transBox.SetCell(0, 3, u"changed on screen"); // put back from the file first
+
+    books.LedgerList.SetListIndex(1);
+    EXPECT_EQ(books.theLedger, u"  Home");
+    EXPECT_EQ(books.oldLedger, u"  Shop");
+    EXPECT_EQ(books.accountsBox.Cell(0, 1), u"Balance");
+    EXPECT_EQ(books.accountsBox.Cell(0, 3), u"50.00");
+    EXPECT_EQ(books.transBox.ListCount(), 0);
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)),
+              QByteArray("@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@a note@#@\n"));
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)),
+              QByteArray("@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n"));
+
+    // A ledger without transactions keeps whatever file it has.
+    writeBook(u"  HomeTransData"_s, "\n\n");
+    books.LedgerList.SetListIndex(0);
+    EXPECT_EQ(readBytes(book(u"  HomeTransData"_s)), QByteArray("\n\n"));
+}
+
+TEST_F(LedgerFlowsTest, ClearingTheSelectionStoresAndClosesTheLedger)
+{
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+    books.accountsBox.SetCell(1, 6, u"kept");
+    books.LedgerList.SetListIndex(-1);
+
+    EXPECT_EQ(books.theLedger, u"");
+    EXPECT_EQ(books.accountsBox.ListCount(), 0);
+    EXPECT_EQ(books.transBox.ListCount(), 0);
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("kept"));
+}
+
+TEST_F(LedgerFlowsTest, ShowsStoredAmountsWithCommasOnACommaSystem)
+{
+    SummaryBooks books(home.books());
+    books.separatorType = u"comma"_s;
+    books.LedgerList.SetListIndex(0);
+    EXPECT_EQ(books.accountsBox.Cell(0, 3), u"100.00") << "the opening keeps its stored form";
+    EXPECT_EQ(books.accountsBox.Cell(1, 5), u"5");
+    EXPECT_EQ(books.transBox.Cell(0, 7), u"5,00");
+}
+
+TEST_F(LedgerFlowsTest, RenameSavesUnderTheNewNameAndRemovesTheOldFiles)
+{
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+    const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
+
+    renameSelected(books, u"Store"_s); // typed without the blanks
+    EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Store");
+    EXPECT_EQ(books.theLedger, u"  Store");
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  Store\n  Home\n"));
+    EXPECT_FALSE(fileExists(book(u"  ShopAccountData"_s)));
+    EXPECT_FALSE(fileExists(book(u"  ShopTransData"_s)));
+    EXPECT_EQ(readBytes(book(u"  StoreAccountData"_s)), accounts.mid(3)) << "as loaded: without the \"999\"";
+    EXPECT_TRUE(readBytes(book(u"  StoreTransData"_s)).contains("Sale"));
+
+    // Unchanged text, or only another case: stored again, nothing deleted.
+    renameSelected(books, u"  Store"_s);
+    renameSelected(books, u"  STORE"_s);
+    EXPECT_TRUE(fileExists(book(u"  StoreAccountData"_s)));
+    EXPECT_TRUE(fileExists(book(u"  STOREAccountData"_s)));
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  STORE\n  Home\n"));
+    EXPECT_TRUE(platform.messages.isEmpty());
+}
+
+TEST_F(LedgerFlowsTest, RefusedRenamesTouchNoFile)
+{
+    writeBook(u"  OrphanTransData"_s, "@#@someone else's@#@\n");
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+    const Folder before = snapshot();
+
+    for (const QString& name : {u""_s, u"   "_s, u"  home"_s, u"a/b"_s, u"tab\there"_s, u"Orphan"_s, QString(250, u'x')}) {
+        renameSelected(books, name);
+        EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Shop") << name.toStdString();
+        EXPECT_EQ(books.theLedger, u"  Shop");
+        EXPECT_EQ(snapshot(), before) << name.toStdString();
+    }
+    EXPECT_EQ(platform.messages.size(), 7);
+    EXPECT_EQ(platform.messages[2], u"That ledger name is already in use. Please enter a different name.");
+}
+
+TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
+{
+    SummaryBooks books(home.books());
+    books.deleteLedger();
+    EXPECT_TRUE(platform.dialogs.empty()) << "no ledger selected: nothing happens";
+
+    books.LedgerList.SetListIndex(0);
+    const Folder before = snapshot();
+    books.deleteLedger(); // answered Cancel
+    ASSERT_EQ(platform.dialogs.size(), 1u);
+    const MessageDialog& asked = platform.dialogs[0];
+    EXPECT_EQ(asked.Message, u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?");
+    EXPECT_EQ(asked.Explanation, u"This action cannot be undone.");
+    EXPECT_EQ(asked.ActionButton, u"Delete");
+    EXPECT_EQ(asked.CancelButton, u"Cancel");
+    EXPECT_EQ(snapshot(), before);
+    EXPECT_EQ(books.theLedger, u"  Shop");
+
+    platform.answerNextDialog(MessageDialog::Button::Action);
+    books.deleteLedger();
+    EXPECT_EQ(ledgerNames(books), QStringList{u"  Home"_s});
+    EXPECT_EQ(books.theLedger, u"");
+    EXPECT_FALSE(books.deletingOn);
+    EXPECT_FALSE(books.delLedger);
+    EXPECT_EQ(books.accountsBox.ListCount(), 0);
+    Folder after = before;
+    after.remove(u"  ShopAccountData"_s);
+    after.remove(u"  ShopTransData"_s);
+    after[u"BookList"_s] = "  Home\n";
+    EXPECT_EQ(snapshot(), after) << "nothing else is written";
+
+    books.LedgerList.SetListIndex(0);
+    platform.answerNextDialog(MessageDialog::Button::Action);
+    books.deleteLedger();
+    EXPECT_EQ(readBytes(bookList()), QByteArray()) << "the last ledger gone leaves an empty list";
+    EXPECT_TRUE(fileExists(bookList()));
+}
+
+TEST_F(LedgerFlowsTest, NewLedgerOpensEmptyAfterStoringTheOneLeft)
+{
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+    writeBook(u"  ShopTransData"_s, "@#@Sales@#@2014-03-09@#@From the file@#@\n");
+
+    ASSERT_TRUE(books.addLedger(u"Garden"_s));
+    EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s, u"  Garden"_s}));
+    EXPECT_EQ(books.LedgerList.ListIndex(), 2);
+    EXPECT_EQ(books.LedgerList.rowPicture(2), RowPicture::Book_Icon32);
+    EXPECT_EQ(books.theLedger, u"  Garden");
+    EXPECT_EQ(books.oldLedger, u"  Shop");
+    EXPECT_EQ(books.accountsBox.ListCount(), 0);
+    EXPECT_EQ(books.transBox.ListCount(), 0);
+    // The transactions left were put back from their file and stored; the
+    // accounts, already cleared, were not.
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).contains("From the file"));
+    EXPECT_TRUE(fileExists(book(u"  ShopAccountData"_s)));
+    EXPECT_FALSE(fileExists(book(u"  GardenAccountData"_s)));
+
+    books.saveBooks();
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n  Garden\n"));
+}
+
+TEST_F(LedgerFlowsTest, NewLedgerWithANameThatCantBeUsedChangesNothing)
+{
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(1);
+    const Folder before = snapshot();
+    for (const QString& name : {u""_s, u"shop"_s, u"Home"_s, u"x/y"_s}) {
+        EXPECT_FALSE(books.addLedger(name)) << name.toStdString();
+    }
+    EXPECT_EQ(platform.messages.size(), 4);
+    EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s}));
+    EXPECT_EQ(books.theLedger, u"  Home");
+    EXPECT_EQ(snapshot(), before);
+}
+
+TEST_F(LedgerFlowsTest, NothingIsReadOrWrittenWithoutABooksFolder)
+{
+    SummaryBooks books(QString{});
+    EXPECT_EQ(books.LedgerList.ListCount(), 0);
+    const Folder before = snapshot();
+    ASSERT_TRUE(books.addLedger(u"Loose"_s));
+    books.saveBooks();
+    books.calcAll();
+    EXPECT_EQ(snapshot(), before);
+}

@@ -1,0 +1,147 @@
+#include "books/rowtable/Listbox.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList rowCells(const Listbox& table, int row)
+{
+    QStringList cells;
+    for (int c = 0; c <= table.ColumnCount(); ++c)
+        cells << table.Cell(row, c);
+    return cells;
+}
+
+} // namespace
+
+TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
+{
+    Listbox table(u"t"_s, 4);
+    table.AddRow(u"first");
+    EXPECT_EQ(rowCells(table, 0), (QStringList{u"first"_s, {}, {}, {}, {}}));
+
+    // Growing, shrinking and emptying cells in the middle must not disturb the others.
+    table.SetCell(0, 2, u"a much longer text than before");
+    table.SetCell(0, 1, u"x");
+    table.SetCell(0, 4, u"hidden");
+    table.SetCell(0, 2, u"");
+    table.SetCell(0, 3, u"@#@ inside");
+    EXPECT_EQ(rowCells(table, 0), (QStringList{u"first"_s, u"x"_s, {}, u"@#@ inside"_s, u"hidden"_s}));
+    // The hidden cell is readable but not part of the stored line.
+    EXPECT_EQ(table.storedLine(0), u"first@#@x@#@@#@@#@ inside@#@");
+
+    // Outside the row or beyond the hidden cell: reads "", writes nothing.
+    table.SetCell(0, 5, u"nowhere");
+    table.SetCell(3, 0, u"nowhere");
+    EXPECT_EQ(table.Cell(0, 5), u"");
+    EXPECT_EQ(table.Cell(-1, 0), u"");
+    EXPECT_EQ(table.ListCount(), 1);
+    EXPECT_EQ(table.LastIndex(), 0);
+}
+
+TEST(Listbox, ChangeFiresInsideTheCallThatChangedTheSelection)
+{
+    Listbox table(u"t"_s, 1);
+    for (const auto* name : {u"a", u"b", u"c"})
+        table.AddRow(QStringView(name));
+    QList<int> seen;
+    QObject::connect(&table, &Listbox::Change, [&] { seen << table.ListIndex(); });
+
+    table.SetListIndex(1);
+    EXPECT_EQ(seen, QList<int>{1}) << "fired before the assignment returned, with the new index";
+    table.SetListIndex(1);
+    EXPECT_EQ(seen.size(), 1) << "the same value fires nothing";
+    EXPECT_EQ(table.Text(), u"b");
+
+    table.RemoveRow(0); // above the selection: the row moves up, still selected
+    EXPECT_EQ(table.ListIndex(), 0);
+    EXPECT_EQ(seen.size(), 1);
+
+    table.RemoveRow(0); // the selected row itself
+    EXPECT_EQ(table.ListIndex(), -1);
+    EXPECT_EQ(seen, (QList<int>{1, -1}));
+
+    table.SetListIndex(7); // no such row: ignored
+    EXPECT_EQ(table.ListIndex(), -1);
+    table.SetListIndex(0);
+    table.DeleteAllRows();
+    EXPECT_EQ(seen, (QList<int>{1, -1, 0, -1}));
+    EXPECT_EQ(table.LastIndex(), -1);
+}
+
+TEST(Listbox, MultipleSelectionSurvivesRemovalFromTheLastRowUp)
+{
+    Listbox table(u"t"_s, 2, Listbox::SelectionType::Multiple);
+    for (int i = 0; i < 6; ++i)
+        table.AddRow(QString::number(i));
+    for (int row : {1, 3, 4})
+        table.SetSelected(row, true);
+    EXPECT_EQ(table.ListIndex(), 1);
+
+    for (int row = table.ListCount() - 1; row >= 0; --row) {
+        if (table.Selected(row))
+            table.RemoveRow(row);
+    }
+    QStringList left;
+    for (int row = 0; row < table.ListCount(); ++row)
+        left << table.Cell(row, 0);
+    EXPECT_EQ(left, (QStringList{u"0"_s, u"2"_s, u"5"_s}));
+    EXPECT_EQ(table.ListIndex(), -1);
+
+    // A single-selection table keeps one row at most.
+    Listbox single(u"s"_s, 1);
+    single.AddRow(u"a");
+    single.AddRow(u"b");
+    single.SetSelected(0, true);
+    single.SetSelected(1, true);
+    EXPECT_FALSE(single.Selected(0));
+    EXPECT_EQ(single.ListIndex(), 1);
+}
+
+TEST(Listbox, SortingReordersTheRowsThemselves)
+{
+    Listbox table(u"t"_s, 3, Listbox::SelectionType::Multiple);
+    const QStringList dates{u"2014-03-09"_s, u"2013-12-31"_s, u"2014-03-09"_s, u"2014-01-15"_s};
+    for (int i = 0; i < dates.size(); ++i) {
+        table.AddRow(QString::number(i));
+        table.SetCell(i, 1, dates[i]);
+        table.SetCell(i, 2, i % 2 ? u"apple"_s : u"Banana"_s);
+    }
+    table.SetSelected(0, true);
+    table.SetCellCheck(0, 1, true);
+
+    table.SortRows(1, Qt::AscendingOrder);
+    QStringList order;
+    for (int row = 0; row < table.ListCount(); ++row)
+        order << table.Cell(row, 0);
+    EXPECT_EQ(order, (QStringList{u"1"_s, u"3"_s, u"0"_s, u"2"_s})) << "stable, by text, which is date order";
+    EXPECT_EQ(table.ListIndex(), 2) << "the selection moves with its row";
+    EXPECT_TRUE(table.CellCheck(2, 1)) << "so does the check box";
+
+    table.SortRows(2, Qt::AscendingOrder); // "apple" before "Banana": case is ignored
+    EXPECT_EQ(table.Cell(0, 2), u"apple");
+    table.SortRows(2, Qt::DescendingOrder);
+    EXPECT_EQ(table.Cell(0, 2), u"Banana");
+}
+
+TEST(Listbox, UserActionsFireTheirEvents)
+{
+    Listbox table(u"t"_s, 2);
+    table.AddRow(u"a");
+    QSignalSpy actions(&table, &Listbox::CellAction);
+    QSignalSpy textChanges(&table, &Listbox::CellTextChange);
+
+    table.userToggledCheck(0, 1);
+    EXPECT_TRUE(table.CellCheck(0, 1));
+    table.SetCellCheck(0, 1, false); // the program's own change is no user action
+    ASSERT_EQ(actions.size(), 1);
+    EXPECT_EQ(actions[0], (QList<QVariant>{0, 1}));
+
+    table.userEditedCell(0, 0, u"typed"_s);
+    EXPECT_EQ(table.Cell(0, 0), u"typed");
+    EXPECT_EQ(textChanges.size(), 1);
+}

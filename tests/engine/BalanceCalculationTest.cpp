@@ -1,0 +1,247 @@
+#include "books/SummaryBooks.h"
+#include "engine/BalanceCalculation.h"
+#include "engine/RowLayouts.h"
+#include "reference/AccountByAccountScan.h"
+#include "reference/GeneratedLedger.h"
+#include "support/DataFolder.h"
+
+#include <QLocale>
+
+#include <cstring>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A ledger written by hand, as years of use leave one: an old type word in row 0
+// and in an account, amounts stored with either mark, blanks around a total, a
+// GST row, a row of an account that no longer exists, a third decimal, an
+// unreadable amount and date, and a short row from an older file.
+constexpr const char* kAccounts =
+    "@#@Balance@#@main account@#@1000.00@#@@#@@#@Start here@#@\n"
+    "@#@Sales@#@asset@#@@#@@#@@#@@#@\n"
+    "@#@Office@#@Expense@#@12,5@#@@#@@#@@#@\n"
+    "@#@Travel@#@Expense@#@.00@#@@#@@#@@#@\n"
+    "@#@Savings@#@Revenue@#@10.125@#@@#@@#@@#@\n";
+constexpr const char* kTransactions =
+    "@#@sales@#@2014-03-09@#@Invoice 1@#@@#@100@#@@#@100.00@#@@#@@#@true@#@Never@#@\n"
+    "@#@Sales@#@2014-03-10@#@Invoice 2@#@@#@50,5@#@@#@ 50,5 @#@@#@@#@false@#@Monthly@#@\n"
+    "@#@Office@#@2014-03-11@#@Paper@#@@#@-30@#@5@#@-35.00@#@@#@@#@true@#@Never@#@\n"
+    "1000@#@GST@#@2014-03-11@#@Paper@#@@#@@#@@#@@#@@#@@#@@#@@#@\n"
+    "@#@Closed@#@2014-03-12@#@Old@#@@#@-7@#@@#@-7@#@@#@@#@@#@@#@\n"
+    "@#@OFFICE@#@someday@#@Pens@#@@#@@#@@#@n/a@#@123@#@@#@@#@@#@\n"
+    "@#@Savings@#@2014-03-13@#@Interest@#@@#@@#@@#@0.333@#@\n";
+
+QStringList column(const Listbox& table, int c)
+{
+    QStringList cells;
+    for (int row = 0; row < table.ListCount(); ++row)
+        cells << table.Cell(row, c);
+    return cells;
+}
+
+class BalanceCalculationTest : public ::testing::Test {
+protected:
+    BalanceCalculationTest()
+    {
+        home.makeFolders();
+        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n");
+        writeBytes(book(u"  ShopAccountData"_s), kAccounts);
+        writeBytes(book(u"  ShopTransData"_s), kTransactions);
+    }
+    ~BalanceCalculationTest() override { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    QString book(const QString& name) const { return home.books() + u'/' + name; }
+
+    TempDataHome home;
+};
+
+} // namespace
+
+TEST_F(BalanceCalculationTest, GivesEveryAccountItsFiguresOnAPeriodSystem)
+{
+    SummaryBooks books(home.books());
+    books.probeSeparator();
+    books.LedgerList.SetListIndex(0);
+    books.calcAll();
+
+    // Sales 100 + 50.5; Office -35 and "n/a" (0); Travel nothing; Savings 0.333.
+    // The Base Account sums the accounts' transactions, not their openings; "Closed"
+    // and GST count in no account.
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Type),
+              (QStringList{u"Base Account"_s, u"Revenue"_s, u"Expense"_s, u"Expense"_s, u"Revenue"_s}));
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Opening),
+              (QStringList{u"1000.00"_s, u"0.00"_s, u"12.50"_s, u"0.00"_s, u"10.125"_s}));
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Transactions),
+              (QStringList{u"115.833"_s, u"150.50"_s, u"-35.00"_s, u"0.00"_s, u"0.333"_s}));
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance),
+              (QStringList{u"1115.833"_s, u"150.50"_s, u"-22.50"_s, u"0.00"_s, u"10.458"_s}));
+    EXPECT_EQ(column(books.transBox, TransCol::Transaction),
+              (QStringList{u"100.00"_s, u"50.50"_s, u"-35.00"_s, u".00"_s, u"-7"_s, u"n/a.00"_s, u"0.333"_s}));
+    EXPECT_EQ(books.taxText, u"5");
+    EXPECT_EQ(books.balText, u"108.833");
+    EXPECT_EQ(column(books.transBox, TransCol::Seconds),
+              (QStringList{u"3477168000"_s, u"3477254400"_s, u"3477340800"_s, u"3477340800"_s, u"3477427200"_s,
+                           u"123"_s, u"3477513600"_s}))
+        << "an unreadable date leaves its seconds alone";
+
+    // The files hold the plain sums, and the totals as they stood before padding.
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)),
+              QByteArray("@#@Balance@#@Base Account@#@1000.00@#@115.833@#@1115.833@#@Start here@#@\n"
+                         "@#@Sales@#@Revenue@#@@#@150.5@#@150.5@#@@#@\n"
+                         "@#@Office@#@Expense@#@12,5@#@-35@#@-22.5@#@@#@\n"
+                         "@#@Travel@#@Expense@#@.00@#@0@#@0@#@@#@\n"
+                         "@#@Savings@#@Revenue@#@10.125@#@0.333@#@10.458@#@@#@\n"));
+    const QByteArray transactions = readBytes(book(u"  ShopTransData"_s));
+    EXPECT_TRUE(transactions.contains("@#@Sales@#@2014-03-10@#@Invoice 2@#@@#@50,5@#@@#@ 50,5 @#@3477254400@#@"));
+    EXPECT_TRUE(transactions.contains("\n@#@GST@#@2014-03-11@#@Paper@#@@#@@#@@#@@#@3477340800@#@"));
+
+    // A second run gives the same figures and the same files.
+    books.calcAll();
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance),
+              (QStringList{u"1115.833"_s, u"150.50"_s, u"-22.50"_s, u"0.00"_s, u"10.458"_s}));
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)),
+              QByteArray("@#@Balance@#@Base Account@#@1000.00@#@115.833@#@1115.833@#@Start here@#@\n"
+                         "@#@Sales@#@Revenue@#@0.00@#@150.5@#@150.5@#@@#@\n"
+                         "@#@Office@#@Expense@#@12.50@#@-35@#@-22.5@#@@#@\n"
+                         "@#@Travel@#@Expense@#@0.00@#@0@#@0@#@@#@\n"
+                         "@#@Savings@#@Revenue@#@10.125@#@0.333@#@10.458@#@@#@\n"))
+        << "now the padded openings are stored";
+}
+
+TEST_F(BalanceCalculationTest, ShowsCommasOnACommaSystemAndReadsThemBack)
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    SummaryBooks books(home.books());
+    books.probeSeparator();
+    ASSERT_EQ(books.separatorType, u"comma");
+    books.LedgerList.SetListIndex(0);
+    books.calcAll();
+
+    const QStringList balances{u"1115,833"_s, u"150,50"_s, u"-22,50"_s, u"0,00"_s, u"10,458"_s};
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Opening),
+              (QStringList{u"1000,00"_s, u"0,00"_s, u"12,50"_s, u"0,00"_s, u"10,125"_s}));
+    EXPECT_EQ(column(books.transBox, TransCol::Transaction),
+              (QStringList{u"100,00"_s, u"50,50"_s, u"-35,00"_s, u",00"_s, u"-7"_s, u"n/a,00"_s, u"0,333"_s}));
+
+    // Every later read goes through the comma: the figures hold on each run, and
+    // a reopened ledger gives them again.
+    books.calcAll();
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("@#@Sales@#@Revenue@#@0,00@#@150.5@#@150.5@#@"));
+    books.LedgerList.SetListIndex(-1);
+    books.LedgerList.SetListIndex(0);
+    EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Balance), u"150,50") << "stored as shown on leaving, read back";
+    books.calcAll();
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
+}
+
+TEST_F(BalanceCalculationTest, CountsOnlyReconciledRowsWhileReconciling)
+{
+    SummaryBooks books(home.books());
+    books.LedgerList.SetListIndex(0);
+    books.reconcilecheckbox_Action(true);
+    EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Transactions), u"") << "switching on computes nothing yet";
+    books.calcAll();
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Transactions),
+              (QStringList{u"65.00"_s, u"100.00"_s, u"-35.00"_s, u"0.00"_s, u"0.00"_s}));
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("@#@Sales@#@Revenue@#@@#@100@#@100@#@"))
+        << "the filtered figures are what is stored";
+    EXPECT_EQ(books.transBox.Cell(1, TransCol::Transaction), u"50.50") << "an unreconciled row keeps its amount";
+
+    books.reconcilecheckbox_Action(false);
+    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Transactions), u"115.833");
+}
+
+TEST_F(BalanceCalculationTest, DoesNothingWithoutASelectedLedger)
+{
+    SummaryBooks books(home.books());
+    books.accountsBox.AddRow(u"");
+    books.accountsBox.SetCell(0, AccountCol::Type, u"asset");
+    books.calcAll();
+    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Type), u"asset");
+    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Transactions), u"");
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), QByteArray(kAccounts));
+}
+
+TEST(BalanceCalculation, OnePassEqualsTheAccountByAccountScanToTheBit)
+{
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        for (bool reconciledOnly : {false, true}) {
+            const LedgerShape shape{seed % 2 ? 40 : 4, 3000, seed, true};
+            Listbox accounts(u"accountsBox"_s, AccountCol::Count);
+            Listbox transactions(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple);
+            generateLedger(accounts, transactions, shape);
+            Listbox scannedAccounts(u"accountsBox"_s, AccountCol::Count);
+            Listbox scannedTransactions(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple);
+            generateLedger(scannedAccounts, scannedTransactions, shape);
+
+            const BalanceTotals fast = calculateBalances(accounts, transactions, reconciledOnly);
+            const ScanTotals scan = scanAccountByAccount(scannedAccounts, scannedTransactions, reconciledOnly);
+            EXPECT_EQ(std::memcmp(&fast.tax, &scan.tax, sizeof(double)), 0) << "seed " << seed;
+            EXPECT_EQ(std::memcmp(&fast.transactions, &scan.transactions, sizeof(double)), 0) << "seed " << seed;
+            for (int r = 0; r < accounts.ListCount(); ++r) {
+                for (int c = 0; c < AccountCol::Count; ++c)
+                    ASSERT_EQ(accounts.Cell(r, c), scannedAccounts.Cell(r, c)) << "seed " << seed << " row " << r << " column " << c;
+            }
+        }
+    }
+}
+
+TEST(BalanceCalculation, MatchesNamesIgnoringCaseAcrossScripts)
+{
+    Listbox accounts(u"accountsBox"_s, AccountCol::Count);
+    Listbox transactions(u"transBox"_s, TransCol::Count);
+    for (const QString& name : {u"Balance"_s, u"Café Été"_s, u"ΣΟΦΙΑ"_s, u"Straße"_s}) {
+        accounts.AddRow(u"");
+        accounts.SetCell(accounts.LastIndex(), AccountCol::Name, name);
+    }
+    for (const QString& name : {u"café été"_s, u"CAFÉ ÉTÉ"_s, u"σοφια"_s, u"STRASSE"_s, u"straße"_s, u"balance"_s}) {
+        transactions.AddRow(u"");
+        transactions.SetCell(transactions.LastIndex(), TransCol::Account, name);
+        transactions.SetCell(transactions.LastIndex(), TransCol::Transaction, u"1"_s);
+    }
+    Listbox scanned(u"accountsBox"_s, AccountCol::Count);
+    for (int r = 0; r < accounts.ListCount(); ++r) {
+        scanned.AddRow(u"");
+        scanned.SetCell(r, AccountCol::Name, accounts.Cell(r, AccountCol::Name));
+    }
+    calculateBalances(accounts, transactions, false);
+    scanAccountByAccount(scanned, transactions, false);
+    EXPECT_EQ(column(accounts, AccountCol::Transactions), (QStringList{u"4"_s, u"2"_s, u"1"_s, u"1"_s}));
+    EXPECT_EQ(column(accounts, AccountCol::Transactions), column(scanned, AccountCol::Transactions));
+}
+
+TEST(BalanceCalculation, PadsAmountsToTwoDecimals)
+{
+    struct Case {
+        const char* name;
+        QString cell;
+        std::optional<QString> account;
+        std::optional<QString> transaction;
+    };
+    const std::nullopt_t stays = std::nullopt;
+    const Case cases[] = {
+        {"whole", u"12"_s, u"12.00"_s, stays},
+        {"wholeOfThree", u"100"_s, u"100.00"_s, u"100.00"_s},
+        {"oneDigit", u"5"_s, u"5.00"_s, u"5.00"_s},
+        {"negativeOfTwo", u"-5"_s, u"-5.00"_s, stays},
+        {"oneDecimal", u"12.5"_s, u"12.50"_s, u"12.50"_s},
+        {"twoDecimals", u"12.50"_s, stays, stays},
+        {"threeDecimals", u"12.345"_s, stays, stays},
+        {"endsInPoint", u"12."_s, stays, stays},
+        {"empty", u""_s, u".00"_s, u".00"_s},
+        {"blanksAround", u" 12.5 "_s, u"12.50"_s, u"12.50"_s},
+        {"commaOneDecimal", u"12,5"_s, u"12.50"_s, u"12.50"_s},
+        {"commaTwoDecimals", u"12,50"_s, stays, stays},
+        {"pointFive", u".5"_s, u".50"_s, stays},
+        {"words", u"n/a"_s, u"n/a.00"_s, u"n/a.00"_s},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(paddedAmount(c.cell), c.account) << c.name;
+        EXPECT_EQ(paddedTransaction(c.cell), c.transaction) << c.name;
+    }
+}

@@ -1,0 +1,44 @@
+#include "support/DataFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+TempDataHome::TempDataHome()
+    : previous(qgetenv("XDG_DATA_HOME"))
+{
+    EXPECT_TRUE(dir.isValid());
+    qputenv("XDG_DATA_HOME", dir.path().toLocal8Bit());
+}
+
+TempDataHome::~TempDataHome()
+{
+    qputenv("XDG_DATA_HOME", previous);
+}
+
+void TempDataHome::makeFolders() const
+{
+    EXPECT_TRUE(QDir().mkpath(books()));
+}
+
+QByteArray readBytes(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+void writeBytes(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << path.toStdString();
+    file.write(bytes);
+}
+
+bool fileExists(const QString& path)
+{
+    return QFileInfo::exists(path);
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+// A temporary application data folder for one test: XDG_DATA_HOME points at it
+// while the object lives, so nothing touches the user's real data.
+class TempDataHome {
+public:
+    TempDataHome();
+    ~TempDataHome();
+    TempDataHome(const TempDataHome&) = delete;
+    TempDataHome& operator=(const TempDataHome&) = delete;
+
+    QString path() const { return dir.path(); }
+    QString quillmark() const { return dir.path() + QStringLiteral("/Quillmark"); }
+    QString books() const { return quillmark() + QStringLiteral("/Books"); }
+    // Creates "Quillmark/Books" as the start of the application does.
+    void makeFolders() const;
+
+private:
+    QTemporaryDir dir;
+    QByteArray previous;
+};
+
+// Whole-file helpers for checking what reached the disk, byte for byte.
+QByteArray readBytes(const QString& path);
+void writeBytes(const QString& path, const QByteArray& bytes);
+bool fileExists(const QString& path);

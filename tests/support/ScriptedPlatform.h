@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/BlockingServices.h"
+#include "platform/Clock.h"
+
+#include <QDateTime>
+#include <QStringList>
+
+#include <deque>
+
+// Replaces the blocking services for the life of a test: records every message,
+// confirmation, beep, address and quit, and answers confirmations from a script
+// (Cancel once the script runs out).
+class ScriptedPlatform {
+public:
+    ScriptedPlatform();
+    ~ScriptedPlatform();
+    ScriptedPlatform(const ScriptedPlatform&) = delete;
+    ScriptedPlatform& operator=(const ScriptedPlatform&) = delete;
+
+    void answerNextDialog(MessageDialog::Button answer) { answers.push_back(answer); }
+
+    QStringList messages;                  // MsgBox texts, in order
+    std::vector<MessageDialog> dialogs;    // confirmations shown, in order
+    QStringList urls;                      // ShowURL addresses
+    int beeps = 0;
+    int quits = 0;
+
+private:
+    std::deque<MessageDialog::Button> answers;
+    BlockingServiceHooks previous;
+};
+
+// Fixes "now" for the life of a test.
+class FixedClock {
+public:
+    explicit FixedClock(const QDateTime& now);
+    ~FixedClock();
+    void set(const QDateTime& now) { current = now; }
+
+private:
+    QDateTime current;
+    std::function<QDateTime()> previous;
+};
