@@ -22,10 +22,28 @@ public:
     std::span<const int> rowsNamed(QStringView name);
 
 private:
+    // Names as they are written, to the group of rows they belong to (-1: none).
+    // A small open-addressing table: a transaction's name is almost always
+    // found here at the first probe.
+    class SpellingTable {
+    public:
+        int find(QStringView name) const;
+        void insert(QStringView name, int group);
+
+    private:
+        struct Slot {
+            QStringView name;
+            int group = -1;
+            bool used = false;
+        };
+        void grow();
+        std::vector<Slot> slots_ = std::vector<Slot>(64);
+        size_t used_ = 0;
+    };
+
     int groupOf(QStringView name);
 
     std::vector<std::vector<int>> groups_;
-    QHash<QStringView, int> exact_;  // account names as written
-    QHash<QString, int> folded_;     // account names case-folded
-    QHash<QStringView, int> spellings_; // other spellings met in transactions; -1: no account
+    QHash<QString, int> folded_; // case-folded account name to group
+    SpellingTable spellings_;    // account names, then other spellings met in transactions
 };

@@ -51,17 +51,26 @@ void writeSeconds(Listbox& transactions)
 {
     for (int t = 0; t < transactions.ListCount(); ++t) {
         QDate date;
-        if (ParseDate(transactions.CellView(t, TransCol::Date), date))
-            transactions.SetCell(t, TransCol::Seconds, Str(TotalSeconds(date)));
+        if (!ParseDate(transactions.CellView(t, TransCol::Date), date))
+            continue;
+        // Usually the cell holds these seconds already: no new string then.
+        const StrText seconds(TotalSeconds(date));
+        if (transactions.CellView(t, TransCol::Seconds) != seconds.view())
+            transactions.SetCell(t, TransCol::Seconds, QString(seconds.view()));
     }
 }
 
 namespace {
 
+bool hasOuterBlanks(QStringView cell)
+{
+    return !cell.isEmpty() && (cell.front().isSpace() || cell.back().isSpace());
+}
+
 std::optional<QString> pad(QStringView cell, bool wholeTextTest)
 {
     // t of the rule, with "," still standing for "." until a new text is built.
-    const QStringView t = cell.trimmed();
+    const QStringView t = hasOuterBlanks(cell) ? cell.trimmed() : cell;
     qsizetype mark = -1;
     for (qsizetype i = 0; i < t.size(); ++i) {
         if (t[i] == u'.' || t[i] == u',') {
@@ -104,11 +113,6 @@ std::optional<QString> paddedTransaction(QStringView cell)
 
 void padAmounts(Listbox& accounts, Listbox& transactions)
 {
-    for (int t = 0; t < transactions.ListCount(); ++t) {
-        const QStringView cell = transactions.CellView(t, TransCol::Transaction);
-        if (cell.trimmed().size() != cell.size())
-            transactions.SetCell(t, TransCol::Transaction, cell.trimmed().toString());
-    }
     for (int column : {AccountCol::Opening, AccountCol::Transactions, AccountCol::Balance}) {
         for (int r = 0; r < accounts.ListCount(); ++r) {
             if (const auto padded = paddedAmount(accounts.CellView(r, column)))
@@ -121,7 +125,12 @@ void padAmounts(Listbox& accounts, Listbox& transactions)
             }
         }
     }
+    // Trimming every total and then padding every total is the same, row by row,
+    // as one pass that does both.
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        const QStringView cell = transactions.CellView(t, TransCol::Transaction);
+        if (hasOuterBlanks(cell))
+            transactions.SetCell(t, TransCol::Transaction, cell.trimmed().toString());
         if (const auto padded = paddedTransaction(transactions.CellView(t, TransCol::Transaction)))
             transactions.SetCell(t, TransCol::Transaction, *padded);
     }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -125,12 +126,16 @@ double readNumber(QStringView text, bool commaIsPoint)
 
 } // namespace
 
-QString Str(double value)
+StrText::StrText(double value)
 {
-    if (std::isnan(value))
-        return u"NAN"_s;
-    if (std::isinf(value))
-        return value < 0 ? u"-INF"_s : u"INF"_s;
+    const auto put = [this](std::string_view written) {
+        std::copy(written.begin(), written.end(), text);
+        size = qsizetype(written.size());
+    };
+    if (std::isnan(value) || std::isinf(value)) {
+        put(std::isnan(value) ? "NAN" : value < 0 ? "-INF" : "INF");
+        return;
+    }
 
     // Whole numbers below 1e15 have at most 15 digits, so they print exactly; they
     // are by far the most common (seconds, counts), hence the direct path.
@@ -141,7 +146,8 @@ QString Str(double value)
         char* first = writeUnsigned(whole < 0 ? std::uint64_t(-whole) : std::uint64_t(whole), end);
         if (whole < 0)
             *--first = '-';
-        return QString::fromLatin1(first, end - first);
+        put(std::string_view(first, size_t(end - first)));
+        return;
     }
 
     // Rounded to 15 significant digits exactly as printf("%.15g") rounds:
@@ -170,8 +176,7 @@ QString Str(double value)
         --digitCount;
 
     // The value is d.ddd * 10^exponent; lay the digits out around the point.
-    char buffer[kPlainBufferSize];
-    char* out = buffer;
+    char* out = text;
     if (value < 0)
         *out++ = '-';
     if (exponent < 0) {
@@ -190,7 +195,12 @@ QString Str(double value)
                 *out++ = digits[i];
         }
     }
-    return QString::fromLatin1(buffer, out - buffer);
+    size = out - text;
+}
+
+QString Str(double value)
+{
+    return StrText(value).view();
 }
 
 double Val(QStringView text)

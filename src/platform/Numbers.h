@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QLatin1String>
 #include <QStringView>
 
 // Numbers as the books store and show them. Str and Val are the stored form: "."
@@ -11,6 +12,18 @@
 // Str(0.1 + 0.2) is "0.3", Str(1e20) is "100000000000000000000", Str(1.5e-7) is
 // "0.00000015", Str(-0.0) is "0". Infinities and NaN print "INF", "-INF", "NAN".
 QString Str(double value);
+
+// Str's text in a buffer of the caller's, for loops that mostly find a cell
+// holding it already and so need no new string at all.
+struct StrText {
+    explicit StrText(double value);
+    QLatin1String view() const { return QLatin1String(text, size); }
+
+    // The longest plain rendering of a double: the smallest subnormal is "-0."
+    // followed by 323 places; the largest finite value has 309 integer digits.
+    char text[400];
+    qsizetype size = 0;
+};
 
 // The leading decimal number of text: blanks (spaces, tabs), an optional sign,
 // digits with at most one "."; reading stops at the first character that doesn't

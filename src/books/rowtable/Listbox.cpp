@@ -2,13 +2,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr QStringView kSeparator = u"@#@";
-constexpr qsizetype kSeparatorSize = 3;
-
-} // namespace
-
 Listbox::Row::Row(const QStringView* cells, int cellCount, int columnCount)
 {
     qsizetype length = columnCount * kSeparatorSize;
@@ -22,16 +15,6 @@ Listbox::Row::Row(const QStringView* cells, int cellCount, int columnCount)
         text_.append(kSeparator);
         starts_[c] = quint32(text_.size());
     }
-}
-
-QStringView Listbox::Row::cell(int column) const
-{
-    const int count = cellCount();
-    if (column < 0 || column > count)
-        return {};
-    const qsizetype start = column == 0 ? 0 : starts_[column - 1];
-    const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
-    return QStringView(text_).mid(start, end - start);
 }
 
 void Listbox::Row::assignCell(int column, QStringView text)
@@ -104,11 +87,6 @@ void Listbox::replaceAllRows(std::vector<Row> rows)
     Q_EMIT resetDone();
     if (hadSelection)
         notifySelection();
-}
-
-QStringView Listbox::CellView(int row, int column) const
-{
-    return validCell(row, column) ? rows_[row].cell(column) : QStringView();
 }
 
 void Listbox::SetCell(int row, int column, QStringView text)

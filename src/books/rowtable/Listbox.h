@@ -27,11 +27,23 @@ public:
 
     // One row, detached from any table: what a file load builds before the
     // rows go into the table in one step.
+    // Every cell is followed by this in a row's text, as in the table files.
+    static constexpr QStringView kSeparator = u"@#@";
+    static constexpr qsizetype kSeparatorSize = 3;
+
     class Row {
     public:
         Row() = default;
         Row(const QStringView* cells, int cellCount, int columnCount);
-        QStringView cell(int column) const;
+        QStringView cell(int column) const
+        {
+            const int count = cellCount();
+            if (column < 0 || column > count)
+                return {};
+            const qsizetype start = column == 0 ? 0 : starts_[column - 1];
+            const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
+            return QStringView(text_).mid(start, end - start);
+        }
         void setPicture(RowPicture picture) { picture_ = picture; }
 
     private:
@@ -65,7 +77,10 @@ public:
     // Column may be ColumnCount(), the hidden cell; anything outside reads "".
     QString Cell(int row, int column) const { return CellView(row, column).toString(); }
     // The cell without a copy; valid until the row changes.
-    QStringView CellView(int row, int column) const;
+    QStringView CellView(int row, int column) const
+    {
+        return validCell(row, column) ? rows_[row].cell(column) : QStringView();
+    }
     void SetCell(int row, int column, QStringView text);
     // The columns 0 to ColumnCount() - 1 of a row as a line of the table file,
     // each cell followed by "@#@".

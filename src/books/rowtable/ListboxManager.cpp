@@ -5,13 +5,14 @@
 #include "platform/Dates.h"
 #include "platform/TextHelpers.h"
 
-#include <QFile>
+#include <QSaveFile>
+#include <QStringEncoder>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView kSeparator = u"@#@";
+constexpr QStringView kSeparator = Listbox::kSeparator;
 constexpr int kDateColumn = 2;
 constexpr int kTypeColumn = 2;
 
@@ -53,16 +54,31 @@ void ListboxManager::saveListBox(const Listbox& table, const QString& fileName) 
     const QString path = pathOf(fileName);
     if (path.isEmpty())
         return;
-    QString content;
-    qsizetype length = 0;
-    for (int row = 0; row < table.ListCount(); ++row)
-        length += table.storedLine(row).size() + 1;
-    content.reserve(length);
+    // Encoded a piece at a time into one buffer that stays in the cache, and
+    // put in place only once all of it is written.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    constexpr qsizetype kChunk = 256 * 1024;
+    QStringEncoder encoder(QStringEncoder::Utf8);
+    QByteArray buffer(kChunk, Qt::Uninitialized);
+    char* out = buffer.data();
     for (int row = 0; row < table.ListCount(); ++row) {
-        content.append(table.storedLine(row));
-        content.append(u'\n');
+        const QStringView line = table.storedLine(row);
+        const qsizetype needed = encoder.requiredSpace(line.size()) + 1;
+        if (out - buffer.data() + needed > buffer.size()) {
+            if (file.write(buffer.constData(), out - buffer.data()) < 0)
+                return; // the old file stays
+            if (needed > buffer.size())
+                buffer.resize(needed);
+            out = buffer.data();
+        }
+        out = encoder.appendToBuffer(out, line);
+        *out++ = '\n';
     }
-    writeTextFile(path, content);
+    if (file.write(buffer.constData(), out - buffer.data()) < 0)
+        return;
+    file.commit();
 }
 
 void ListboxManager::loadListBox(Listbox& table, const QString& fileName) const
