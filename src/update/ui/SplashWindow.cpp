@@ -3,10 +3,12 @@
 #include "books/ui/Windows.h"
 #include "mainwindow/SummaryWindow.h"
 
+#include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QHBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +45,9 @@ SplashWindow::SplashWindow()
     text->addWidget(StaticText1);
     text->addStretch();
     layout->addLayout(text, 1);
+
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        move(screen->availableGeometry().center() - rect().center());
 
     Timer1 = new QTimer(this);
     Timer1->setSingleShot(true);
