@@ -6,7 +6,6 @@
 #include "reference/AccountByAccountScan.h"
 #include "reference/GeneratedLedger.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -46,12 +45,3 @@ void BM_AccountByAccountScan(benchmark::State& state)
 
 BENCHMARK(BM_CalcAll)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_AccountByAccountScan)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char** argv)
-{
-    QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

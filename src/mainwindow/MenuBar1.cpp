@@ -7,20 +7,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ItemSpec {
+struct MenuItemLayout {
     QString name;
     QString text;
     QString shortcut;
     bool autoEnable;
 };
 
-QAction* addItem(QMenu* menu, const ItemSpec& spec)
+QAction* addItem(QMenu* menu, const MenuItemLayout& item)
 {
-    QAction* action = spec.text == u"-" ? menu->addSeparator() : menu->addAction(spec.text);
-    action->setObjectName(spec.name);
-    if (!spec.shortcut.isEmpty())
-        action->setShortcut(QKeySequence(spec.shortcut));
-    if (!spec.autoEnable)
+    QAction* action = item.text == u"-" ? menu->addSeparator() : menu->addAction(item.text);
+    action->setObjectName(item.name);
+    if (!item.shortcut.isEmpty())
+        action->setShortcut(QKeySequence(item.shortcut));
+    if (!item.autoEnable)
         action->setEnabled(false);
     return action;
 }

@@ -118,29 +118,6 @@ TEST_F(LedgerFlowsTest, SwitchingStoresTheLedgerLeft)
     EXPECT_EQ(readBytes(book(u"  HomeTransData"_s)), QByteArray("\n\n"));
 }
 
-TEST_F(LedgerFlowsTest, ClearingTheSelectionStoresAndClosesTheLedger)
-{
-    SummaryBooks books(home.books());
-    books.LedgerList.SetListIndex(0);
-    books.accountsBox.SetCell(1, 6, u"kept");
-    books.LedgerList.SetListIndex(-1);
-
-    EXPECT_EQ(books.theLedger, u"");
-    EXPECT_EQ(books.accountsBox.ListCount(), 0);
-    EXPECT_EQ(books.transBox.ListCount(), 0);
-    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("kept"));
-}
-
-TEST_F(LedgerFlowsTest, ShowsStoredAmountsWithCommasOnACommaSystem)
-{
-    SummaryBooks books(home.books());
-    books.separatorType = u"comma"_s;
-    books.LedgerList.SetListIndex(0);
-    EXPECT_EQ(books.accountsBox.Cell(0, 3), u"100.00") << "the opening keeps its stored form";
-    EXPECT_EQ(books.accountsBox.Cell(1, 5), u"5");
-    EXPECT_EQ(books.transBox.Cell(0, 7), u"5,00");
-}
-
 TEST_F(LedgerFlowsTest, RenameSavesUnderTheNewNameAndRemovesTheOldFiles)
 {
     SummaryBooks books(home.books());

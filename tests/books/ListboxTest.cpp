@@ -1,7 +1,5 @@
 #include "books/rowtable/Listbox.h"
 
-#include <QSignalSpy>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -126,22 +124,4 @@ TEST(Listbox, SortingReordersTheRowsThemselves)
     EXPECT_EQ(table.Cell(0, 2), u"apple");
     table.SortRows(2, Qt::DescendingOrder);
     EXPECT_EQ(table.Cell(0, 2), u"Banana");
-}
-
-TEST(Listbox, UserActionsFireTheirEvents)
-{
-    Listbox table(u"t"_s, 2);
-    table.AddRow(u"a");
-    QSignalSpy actions(&table, &Listbox::CellAction);
-    QSignalSpy textChanges(&table, &Listbox::CellTextChange);
-
-    table.userToggledCheck(0, 1);
-    EXPECT_TRUE(table.CellCheck(0, 1));
-    table.SetCellCheck(0, 1, false); // the program's own change is no user action
-    ASSERT_EQ(actions.size(), 1);
-    EXPECT_EQ(actions[0], (QList<QVariant>{0, 1}));
-
-    table.userEditedCell(0, 0, u"typed"_s);
-    EXPECT_EQ(table.Cell(0, 0), u"typed");
-    EXPECT_EQ(textChanges.size(), 1);
 }

@@ -4,6 +4,7 @@
 #include "reference/AccountByAccountScan.h"
 #include "reference/GeneratedLedger.h"
 #include "support/DataFolder.h"
+#include "support/DefaultLocale.h"
 
 #include <QLocale>
 
@@ -51,7 +52,6 @@ protected:
         writeBytes(book(u"  ShopAccountData"_s), kAccounts);
         writeBytes(book(u"  ShopTransData"_s), kTransactions);
     }
-    ~BalanceCalculationTest() override { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
 
     QString book(const QString& name) const { return home.books() + u'/' + name; }
 
@@ -113,7 +113,7 @@ TEST_F(BalanceCalculationTest, GivesEveryAccountItsFiguresOnAPeriodSystem)
 
 TEST_F(BalanceCalculationTest, ShowsCommasOnACommaSystemAndReadsThemBack)
 {
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const DefaultLocale german(QLocale(QLocale::German, QLocale::Germany));
     SummaryBooks books(home.books());
     books.probeSeparator();
     ASSERT_EQ(books.separatorType, u"comma");

@@ -1,4 +1,5 @@
 #include "platform/Dates.h"
+#include "support/DefaultLocale.h"
 #include "support/ScriptedPlatform.h"
 
 #include <QLocale>
@@ -7,19 +8,6 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class DefaultLocale {
-public:
-    explicit DefaultLocale(const QLocale& locale) { QLocale::setDefault(locale); }
-    ~DefaultLocale() { QLocale::setDefault(previous); }
-
-private:
-    QLocale previous;
-};
-
-} // namespace
 
 TEST(Dates, ParseDateReadsTheStoredFormsAndTheLocalesShortForm)
 {

@@ -1,4 +1,5 @@
 #include "platform/Numbers.h"
+#include "support/DefaultLocale.h"
 
 #include <QLocale>
 
@@ -13,20 +14,6 @@
 #include <random>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Sets the default locale for the life of a test.
-class DefaultLocale {
-public:
-    explicit DefaultLocale(const QLocale& locale) { QLocale::setDefault(locale); }
-    ~DefaultLocale() { QLocale::setDefault(previous); }
-
-private:
-    QLocale previous;
-};
-
-} // namespace
 
 TEST(Numbers, StrIsPlainDecimalWithFifteenDigits)
 {

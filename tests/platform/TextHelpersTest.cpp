@@ -39,7 +39,4 @@ TEST(TextHelpers, InStrIgnoresCaseAndCountsFromOne)
     EXPECT_EQ(InStr(u"abc", u"x"), 0);
     EXPECT_EQ(InStr(u"abc", u""), 0);
     EXPECT_EQ(InStr(u"", u"a"), 0);
-    EXPECT_EQ(Left(u"  Shop", 2), u"  ");
-    EXPECT_EQ(Left(u"ab", 5), u"ab");
-    EXPECT_EQ(Left(u"ab", -1), u"");
 }
