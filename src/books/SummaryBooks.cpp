@@ -146,6 +146,7 @@ void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
 
 void SummaryBooks::openABook(const QString&)
 {
+    // The selected row names the files; the caller's name is always its text.
     if (LedgerList.ListIndex() == -1)
         return;
     accountsBox.DeleteAllRows();
@@ -229,7 +230,6 @@ void SummaryBooks::calcAll()
     const BalanceTotals totals = calculateBalances(accountsBox, transBox, reconcileOn_);
     taxText = Str(totals.tax);
     balText = Str(totals.transactions);
-    Q_EMIT totalsChanged();
     writeSeconds(transBox);
 
     // The files get the plain sums; the padding and the comma are for the screen.

@@ -76,7 +76,6 @@ public:
 Q_SIGNALS:
     void searchFieldCleared();
     void importAvailable(bool available);
-    void totalsChanged();
 
 private:
     bool reconcileOn_ = false;

@@ -134,6 +134,16 @@ void ListboxView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHin
     QTableView::closeEditor(editor, hint);
 }
 
+bool ListboxView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    // A cell is edited in place only in the selected row: the edit events speak of
+    // the selected row, whatever row the keyboard's current cell is in.
+    if (trigger != QAbstractItemView::NoEditTriggers && trigger != QAbstractItemView::CurrentChanged
+        && !table_.Selected(index.row()))
+        return false;
+    return QTableView::edit(index, trigger, event);
+}
+
 void ListboxView::headerPressed(int column)
 {
     table_.userPressedHeading(column);
