@@ -113,6 +113,11 @@ public:
     void SetHeading(int column, const QString& heading);
     bool HasHeading() const { return hasHeading_; }
     void SetHasHeading(bool has) { hasHeading_ = has; }
+    // The font of the cells; "" and 0 are the system's own.
+    const QString& TextFont() const { return textFont_; }
+    void SetTextFont(const QString& family) { textFont_ = family; }
+    int TextSize() const { return textSize_; }
+    void SetTextSize(int points) { textSize_ = points; }
     // Width of a column in percent of the grid; below 0 when it has no width.
     double columnWidthPercent(int column) const;
     void setColumnWidthPercent(int column, double percent);
@@ -173,4 +178,6 @@ private:
     std::vector<QString> headings_;
     std::vector<double> widths_;
     bool hasHeading_ = true;
+    QString textFont_;
+    int textSize_ = 0;
 };

@@ -62,13 +62,18 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const
         default:
             return int(Qt::AlignLeft | Qt::AlignVCenter);
         }
-    case Qt::FontRole:
-        if (table_.CellBold(row, column)) {
-            QFont font;
-            font.setBold(true);
-            return font;
-        }
-        return {};
+    case Qt::FontRole: {
+        const bool bold = table_.CellBold(row, column);
+        if (!bold && table_.TextFont().isEmpty() && table_.TextSize() <= 0)
+            return {};
+        QFont font;
+        if (!table_.TextFont().isEmpty())
+            font.setFamily(table_.TextFont());
+        if (table_.TextSize() > 0)
+            font.setPointSize(table_.TextSize());
+        font.setBold(bold);
+        return font;
+    }
     default:
         return {};
     }
