@@ -191,6 +191,34 @@ TEST(BalanceCalculation, OnePassEqualsTheAccountByAccountScanToTheBit)
     }
 }
 
+TEST(BalanceCalculation, MalformedRowsChangeNoOtherAccount)
+{
+    Listbox accounts(u"accountsBox"_s, AccountCol::Count);
+    Listbox transactions(u"transBox"_s, TransCol::Count);
+    generateLedger(accounts, transactions, LedgerShape{20, 500, 5, false});
+    calculateBalances(accounts, transactions, false);
+    const QStringList balances = column(accounts, AccountCol::Balance);
+
+    const QStringList hostile{u""_s, u"-"_s, u"."_s, u"--5"_s, u"abc"_s, u"@#@"_s, u"\u0000\uFFFF"_s,
+                              u"\U0001F4B6"_s, QString(5000, u'9').prepend(u"x"_s), u"\t\n\r"_s};
+    for (const QString& text : hostile) {
+        transactions.AddRow(text); // a short row: only its first cell
+        const int row = transactions.LastIndex();
+        transactions.SetCell(row, TransCol::Account, text);
+        transactions.SetCell(row, TransCol::Date, text);
+        transactions.SetCell(row, TransCol::Tax, text);
+        transactions.SetCell(row, TransCol::Transaction, text);
+        transactions.AddRow(u""_s);
+        transactions.SetCell(transactions.LastIndex(), TransCol::Account, accounts.Cell(3, AccountCol::Name));
+        transactions.SetCell(transactions.LastIndex(), TransCol::Transaction, text);
+    }
+    calculateBalances(accounts, transactions, false);
+    EXPECT_EQ(column(accounts, AccountCol::Balance), balances) << "unreadable amounts count 0, wherever they stand";
+    writeSeconds(transactions);
+    padAmounts(accounts, transactions);
+    EXPECT_EQ(transactions.Cell(transactions.ListCount() - 2, TransCol::Transaction), u".00") << "blanks trimmed, then padded";
+}
+
 TEST(BalanceCalculation, MatchesNamesIgnoringCaseAcrossScripts)
 {
     Listbox accounts(u"accountsBox"_s, AccountCol::Count);

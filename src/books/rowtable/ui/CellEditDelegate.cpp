@@ -2,7 +2,9 @@
 
 #include "books/rowtable/Listbox.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPersistentModelIndex>
 
 namespace {
@@ -14,6 +16,32 @@ CellEditDelegate::CellEditDelegate(Listbox& table, QObject* parent)
     : QStyledItemDelegate(parent)
     , table_(table)
 {
+}
+
+void CellEditDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const int offset = table_.ColumnAlignmentOffset(index.column());
+    if (offset == 0) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    // Background, check box and picture as usual, then the text within the
+    // cell's text area moved by the offset (-5: five pixels further left).
+    QStyleOptionViewItem cell(option);
+    initStyleOption(&cell, index);
+    const QString text = cell.text;
+    cell.text.clear();
+    QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    QRect textArea = style->subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget);
+    textArea.translate(offset, 0);
+    const QPalette::ColorRole role = cell.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
+    painter->save();
+    painter->setFont(cell.font);
+    painter->setPen(cell.palette.color(QPalette::Normal, role));
+    painter->drawText(textArea, int(cell.displayAlignment),
+                      cell.fontMetrics.elidedText(text, cell.textElideMode, textArea.width()));
+    painter->restore();
 }
 
 QWidget* CellEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const

@@ -4,7 +4,8 @@
 
 class Listbox;
 
-// In-place editing of a table cell: the table sees the edit start
+// Draws a table's cells and edits them in place. Drawing moves the text of a
+// column by its alignment offset. Editing lets the table see the edit start
 // (CellGotFocus), every change of the text (CellTextChange, with the cell already
 // holding the new text) and its end (CellLostFocus).
 class CellEditDelegate : public QStyledItemDelegate {
@@ -13,6 +14,7 @@ class CellEditDelegate : public QStyledItemDelegate {
 public:
     CellEditDelegate(Listbox& table, QObject* parent);
 
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
