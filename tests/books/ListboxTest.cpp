@@ -29,6 +29,9 @@ TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
     table.SetCell(0, 2, u"");
     table.SetCell(0, 3, u"@#@ inside");
     EXPECT_EQ(rowCells(table, 0), (QStringList{u"first"_s, u"x"_s, {}, u"@#@ inside"_s, u"hidden"_s}));
+    table.SetCell(0, 1, table.CellView(0, 3)); // a view into the very row it changes
+    EXPECT_EQ(table.Cell(0, 1), u"@#@ inside");
+    table.SetCell(0, 1, u"x");
     // The hidden cell is readable but not part of the stored line.
     EXPECT_EQ(table.storedLine(0), u"first@#@x@#@@#@@#@ inside@#@");
 

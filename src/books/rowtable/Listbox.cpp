@@ -19,7 +19,7 @@ Listbox::Row::Row(const QStringView* cells, int cellCount, int columnCount)
 
 void Listbox::Row::assignCell(int column, QStringView text)
 {
-    const int count = cellCount();
+    const int count = columnCount();
     const qsizetype start = column == 0 ? 0 : starts_[column - 1];
     const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
     const qsizetype delta = text.size() - (end - start);

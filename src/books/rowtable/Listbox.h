@@ -25,19 +25,19 @@ public:
     enum ColumnTypes { TypeDefault = 0, TypeCheckbox = 2, TypeEditable = 3 };
     enum Alignments { AlignDefault = 0, AlignLeft = 1, AlignCenter = 2, AlignRight = 3 };
 
-    // One row, detached from any table: what a file load builds before the
-    // rows go into the table in one step.
     // Every cell is followed by this in a row's text, as in the table files.
     static constexpr QStringView kSeparator = u"@#@";
     static constexpr qsizetype kSeparatorSize = 3;
 
+    // One row, detached from any table: what a file load builds before the
+    // rows go into the table in one step.
     class Row {
     public:
         Row() = default;
         Row(const QStringView* cells, int cellCount, int columnCount);
         QStringView cell(int column) const
         {
-            const int count = cellCount();
+            const int count = columnCount();
             if (column < 0 || column > count)
                 return {};
             const qsizetype start = column == 0 ? 0 : starts_[column - 1];
@@ -48,7 +48,8 @@ public:
 
     private:
         friend class Listbox;
-        int cellCount() const { return int(starts_.size()); } // columns + the hidden cell
+        // The hidden cell is the one at column columnCount().
+        int columnCount() const { return int(starts_.size()); }
         void assignCell(int column, QStringView text);
 
         QString text_;
