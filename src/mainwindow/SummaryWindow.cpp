@@ -59,26 +59,23 @@ SummaryWindow::SummaryWindow(QWidget* parent)
 
     auto* right = new QVBoxLayout;
     auto* splitter = new QSplitter(Qt::Vertical, central);
-    GroupBox1 = new QGroupBox(splitter);
-    auto* accountsLayout = new QVBoxLayout(GroupBox1);
-    StaticText1 = new QLabel(u"Accounts"_s, GroupBox1);
-    StaticText1->setAlignment(Qt::AlignCenter);
-    accountsLayout->addWidget(StaticText1);
-    accountsBoxView = new ListboxView(books_.accountsBox, GroupBox1);
-    accountsBoxView->setDefaultRowHeight(kAccountsRowHeight);
-    accountsLayout->addWidget(accountsBoxView);
-    GroupBox2 = new QGroupBox(splitter);
-    auto* transLayout = new QVBoxLayout(GroupBox2);
-    StaticText2 = new QLabel(u"Transactions"_s, GroupBox2);
-    StaticText2->setAlignment(Qt::AlignCenter);
-    transLayout->addWidget(StaticText2);
-    transBoxView = new ListboxView(books_.transBox, GroupBox2);
-    transBoxView->setDefaultRowHeight(kTransRowHeight);
+    // A region: its centred heading above its grid.
+    auto region = [&](QGroupBox*& box, QLabel*& heading, const QString& title, Listbox& table, int rowHeight) {
+        box = new QGroupBox(splitter);
+        box->setMinimumHeight(150);
+        auto* layout = new QVBoxLayout(box);
+        heading = new QLabel(title, box);
+        heading->setAlignment(Qt::AlignCenter);
+        layout->addWidget(heading);
+        auto* view = new ListboxView(table, box);
+        view->setDefaultRowHeight(rowHeight);
+        layout->addWidget(view);
+        return view;
+    };
+    accountsBoxView = region(GroupBox1, StaticText1, u"Accounts"_s, books_.accountsBox, kAccountsRowHeight);
+    transBoxView = region(GroupBox2, StaticText2, u"Transactions"_s, books_.transBox, kTransRowHeight);
     transBoxView->setSortable(true);
     transBoxView->setShowGrid(true);
-    transLayout->addWidget(transBoxView);
-    for (QGroupBox* box : {GroupBox1, GroupBox2})
-        box->setMinimumHeight(150);
     right->addWidget(splitter, 1);
     reconcilecheckbox = new QCheckBox(u"Reconcile Transactions"_s, central);
     reconcilecheckbox->setObjectName(u"reconcilecheckbox"_s);

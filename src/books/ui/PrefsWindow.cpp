@@ -2,9 +2,8 @@
 
 #include "books/prefsDictionary.h"
 #include "books/ui/Windows.h"
+#include "platform/ui/DialogLayout.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -30,14 +29,7 @@ PrefsWindow::PrefsWindow()
     PushButton1->setDefault(true);
     PushButton2 = new QPushButton(u"Cancel"_s, this);
 
-    auto* layout = new QGridLayout(this);
-    layout->addWidget(StaticText1, 0, 0);
-    layout->addWidget(EditField1, 0, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(PushButton2);
-    buttons->addWidget(PushButton1);
-    layout->addLayout(buttons, 1, 0, 1, 2);
+    layOutOneFieldDialog(*this, StaticText1, EditField1, PushButton1, PushButton2);
 
     connect(PushButton1, &QPushButton::clicked, this, [this] {
         prefsDictionary::prefsDict().insert(u"AccountNumber"_s, EditField1->text());

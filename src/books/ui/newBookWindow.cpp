@@ -1,11 +1,10 @@
 #include "books/ui/newBookWindow.h"
 
 #include "books/ui/Windows.h"
+#include "platform/ui/DialogLayout.h"
 #include "mainwindow/SummaryWindow.h"
 
 #include <QEvent>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -36,14 +35,7 @@ newBookWindow::newBookWindow()
     PushButton2 = new QPushButton(u"Cancel"_s, this);
     PushButton2->setObjectName(u"PushButton2"_s);
 
-    auto* layout = new QGridLayout(this);
-    layout->addWidget(StaticText1, 0, 0);
-    layout->addWidget(EditField1, 0, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(PushButton2);
-    buttons->addWidget(PushButton1);
-    layout->addLayout(buttons, 1, 0, 1, 2);
+    layOutOneFieldDialog(*this, StaticText1, EditField1, PushButton1, PushButton2);
 
     EditField1->installEventFilter(this);
     connect(PushButton1, &QPushButton::clicked, this, &newBookWindow::PushButton1_Action);

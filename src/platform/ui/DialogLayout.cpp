@@ -1,0 +1,20 @@
+#include "platform/ui/DialogLayout.h"
+
+#include <QDialog>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+void layOutOneFieldDialog(QDialog& dialog, QLabel* label, QLineEdit* field, QPushButton* ok, QPushButton* cancel)
+{
+    auto* layout = new QGridLayout(&dialog);
+    layout->addWidget(label, 0, 0);
+    layout->addWidget(field, 0, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cancel);
+    buttons->addWidget(ok);
+    layout->addLayout(buttons, 1, 0, 1, 2);
+}
