@@ -16,6 +16,11 @@ bool refusedByFileSystem(QChar c)
 
 } // namespace
 
+QString ledgerNameInUseMessage()
+{
+    return u"That ledger name is already in use. Please enter a different name."_s;
+}
+
 QString withLedgerPrefix(const QString& name)
 {
     return name.startsWith(kLedgerPrefix) ? name : kLedgerPrefix + name;
@@ -31,7 +36,7 @@ QString ledgerNameProblem(const QString& name, const Listbox& ledgerList, int ow
         return u"That ledger name is too long. Please enter a shorter name."_s;
     for (int row = 0; row < ledgerList.ListCount(); ++row) {
         if (row != ownRow && ledgerList.CellView(row, 0).compare(name, Qt::CaseInsensitive) == 0)
-            return u"That ledger name is already in use. Please enter a different name."_s;
+            return ledgerNameInUseMessage();
     }
     return {};
 }

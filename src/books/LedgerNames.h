@@ -9,6 +9,9 @@ class Listbox;
 
 inline const QString kLedgerPrefix = QStringLiteral("  ");
 
+// The message for a name another ledger has, in the list or on disk.
+QString ledgerNameInUseMessage();
+
 // The name with the two leading blanks, added when missing.
 QString withLedgerPrefix(const QString& name);
 

@@ -123,7 +123,7 @@ void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
     if (problem.isEmpty() && renamed && !listboxManager.ProgramDataFolder.isEmpty()) {
         const QDir folder(listboxManager.ProgramDataFolder);
         if (folder.exists(accountsFileName()) || folder.exists(transFileName()))
-            problem = u"That ledger name is already in use. Please enter a different name."_s;
+            problem = ledgerNameInUseMessage();
     }
     if (!problem.isEmpty()) {
         MsgBox(problem);

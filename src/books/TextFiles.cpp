@@ -23,12 +23,16 @@ std::optional<QString> readTextFile(const QString& path)
 
 bool writeTextFile(const QString& path, QStringView text)
 {
+    return writeFileBytes(path, text.toUtf8());
+}
+
+bool writeFileBytes(const QString& path, const QByteArray& bytes)
+{
     if (path.isEmpty())
         return false;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    const QByteArray bytes = text.toUtf8();
     if (file.write(bytes) != bytes.size()) {
         file.cancelWriting();
         return false;

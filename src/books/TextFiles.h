@@ -15,6 +15,8 @@ std::optional<QString> readTextFile(const QString& path);
 // Writes the text as the whole new content of the file. The old file is replaced
 // only once the new one is completely on disk; on any failure it stays as it was.
 bool writeTextFile(const QString& path, QStringView text);
+// The same for bytes already encoded.
+bool writeFileBytes(const QString& path, const QByteArray& bytes);
 
 // Calls f for each line of text, without its line end. "\n", "\r\n" and a lone "\r"
 // all end a line, so files from other systems read alike. A final line end

@@ -1,9 +1,9 @@
 #include "books/prefsDictionary.h"
 
 #include "books/AppFolders.h"
+#include "books/TextFiles.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -54,14 +54,7 @@ void getPreferences()
 
 void savePreferences()
 {
-    const QString path = preferencesPath();
-    if (path.isEmpty())
-        return;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(countedString(prefsDict().value(kAccountNumber)));
-    file.commit();
+    writeFileBytes(preferencesPath(), countedString(prefsDict().value(kAccountNumber)));
 }
 
 } // namespace prefsDictionary

@@ -28,10 +28,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    // Reports the gathered cell changes now instead of at the next turn.
+private:
+    // Reports the gathered cell changes.
     void flushCellChanges();
 
-private:
     void noteCellChange(int row, int column);
     const QIcon& iconOf(RowPicture picture) const;
 
