@@ -30,6 +30,7 @@ SummaryBooks::SummaryBooks(const QString& programDataFolder, QObject* parent)
     connect(&LedgerList, &Listbox::CellGotFocus, this, &SummaryBooks::LedgerList_CellGotFocus);
     connect(&LedgerList, &Listbox::CellTextChange, this, &SummaryBooks::LedgerList_CellTextChange);
     connect(&LedgerList, &Listbox::CellLostFocus, this, &SummaryBooks::LedgerList_CellLostFocus);
+    connect(&transBox, &Listbox::CellAction, this, &SummaryBooks::transBox_CellAction);
 }
 
 QString SummaryBooks::bookListPath() const
@@ -218,9 +219,40 @@ void SummaryBooks::deleteLedger()
     deletingOn = false;
 }
 
-void SummaryBooks::probeSeparator()
+void SummaryBooks::transBox_CellAction(int row, int column)
 {
-    separatorType = Format(1234.0, u"########0.00").contains(u',') ? u"comma"_s : u"period"_s;
+    transBox.SetCell(row, TransCol::Reconciled, transBox.CellCheck(row, column) ? u"true" : u"false");
+    if (reconcileOn_)
+        calcAll();
+    listboxManager.saveListBox(transBox, transFileName());
+}
+
+bool SummaryBooks::accountsBox_DragReorderRows(int newPosition, int /*parentRow*/)
+{
+    if (newPosition == 0) {
+        Beep();
+        return true;
+    }
+    listboxManager.saveListBox(accountsBox, accountsFileName());
+    return false;
+}
+
+void SummaryBooks::saveOpenLedger()
+{
+    if (LedgerList.ListIndex() > -1) {
+        listboxManager.saveListBox(transBox, transFileName());
+        listboxManager.saveListBox(accountsBox, accountsFileName());
+    }
+}
+
+QString SummaryBooks::separatorProbe()
+{
+    return Format(1234.0, u"########0.00");
+}
+
+QString SummaryBooks::separatorTypeOf(QStringView probe)
+{
+    return probe.contains(u',') ? u"comma"_s : u"period"_s;
 }
 
 void SummaryBooks::calcAll()
@@ -230,6 +262,7 @@ void SummaryBooks::calcAll()
     const BalanceTotals totals = calculateBalances(accountsBox, transBox, reconcileOn_);
     taxText = Str(totals.tax);
     balText = Str(totals.transactions);
+    Q_EMIT totalsChanged();
     writeSeconds(transBox);
 
     // The files get the plain sums; the padding and the comma are for the screen.

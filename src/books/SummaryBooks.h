@@ -56,9 +56,23 @@ public:
     // Deletes the selected ledger with its files after the user's confirmation.
     void deleteLedger();
 
+    // --- accounts and transactions ---
+    // A reconcile box of transBox was toggled: its row keeps the new state in the
+    // reconciled column, and the table is stored.
+    void transBox_CellAction(int row, int column);
+    // An account row was dragged to newPosition. Row 0 belongs to the Base
+    // Account, so a drop there is refused with a beep (true); any other is kept
+    // and stored.
+    bool accountsBox_DragReorderRows(int newPosition, int parentRow);
+    // Stores both tables of the open ledger, if one is open: the window closes.
+    void saveOpenLedger();
+
     // --- figures ---
-    // Finds the decimal mark of the system once, as the window opens.
-    void probeSeparator();
+    // Finds the decimal mark of the system once, as the window opens: 1234 as the
+    // locale writes it, and the separator type that text shows.
+    void probeSeparator() { separatorType = separatorTypeOf(separatorProbe()); }
+    static QString separatorProbe();
+    static QString separatorTypeOf(QStringView probe);
     // Recomputes every account of the open ledger and stores both tables.
     void calcAll();
     // Sets the reconcile boxes of transBox from their stored column.
@@ -75,6 +89,8 @@ public:
 
 Q_SIGNALS:
     void searchFieldCleared();
+    // taxText and balText have new values.
+    void totalsChanged();
     void importAvailable(bool available);
 
 private:

@@ -1,19 +1,24 @@
 #pragma once
 
 #include "books/SummaryBooks.h"
+#include "books/ui/smartWindow.h"
 
-#include <QMainWindow>
-
+class AutoButton;
+class Canvas;
 class ListboxView;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
+class QToolBar;
+class WindowSplitter;
 
 // The main window: the ledger list at the left, the accounts of the open ledger
 // at the upper right and its transactions below. It shows the tables of its
-// SummaryBooks and forwards the user's actions to them.
-class SummaryWindow : public QMainWindow {
+// SummaryBooks and forwards the user's actions to them. Closing it stores the
+// open ledger and ends the application.
+class SummaryWindow : public smartWindow {
     Q_OBJECT
 
 public:
@@ -28,29 +33,61 @@ public:
     Listbox& transBox() { return books_.transBox; }
     void calcAll() { books_.calcAll(); }
 
+    // The controls, by their design names, top to bottom.
+    QToolBar* Toolbar11 = nullptr;
     ListboxView* LedgerListView = nullptr;
-    ListboxView* accountsBoxView = nullptr;
-    ListboxView* transBoxView = nullptr;
     QPushButton* PushButton3 = nullptr; // "+": new ledger
     QPushButton* PushButton4 = nullptr; // "-": delete ledger
     QGroupBox* GroupBox1 = nullptr;
     QLabel* StaticText1 = nullptr;
+    ListboxView* accountsBoxView = nullptr;
+    Canvas* Canvas5 = nullptr; // over the accounts' headings: they can't be pressed
+    WindowSplitter* WindowSplitter1 = nullptr;
     QGroupBox* GroupBox2 = nullptr;
+    AutoButton* addtransbtn = nullptr;
+    AutoButton* deltransbtn = nullptr;
+    AutoButton* editTransBtn = nullptr;
     QLabel* StaticText2 = nullptr;
+    QLineEdit* EditField1 = nullptr; // the search field's twin, under Canvas13
+    AutoButton* Canvas7 = nullptr;
+    AutoButton* endSearch = nullptr;
+    Canvas* Canvas13 = nullptr;      // the search field's frame
+    QLineEdit* EditField11 = nullptr;
+    AutoButton* Canvas71 = nullptr;
+    AutoButton* endSearch1 = nullptr;
+    ListboxView* transBoxView = nullptr;
     QCheckBox* reconcilecheckbox = nullptr;
+    QLabel* StaticText4 = nullptr; // "Total Tax:", hidden
+    QLabel* taxText = nullptr;
+    QLabel* StaticText3 = nullptr; // "Total Transactions:", hidden
+    QLabel* balText = nullptr;
+    Canvas* Canvas10 = nullptr;    // the strip along the bottom
+    QLineEdit* separatorFld = nullptr;
 
     void PushButton3_Action();
     void PushButton4_Action();
+    void WindowSplitter1_Open();
+    void WindowSplitter1_SplitterMoved() {}
+    bool accountsBox_DragReorderRows(int newPosition, int parentRow);
     // Opens the account dialog for the first account of a new ledger.
     void makeNewAccount();
+    // Writes the window's place to "WindowData".
+    void saveWindowData();
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
+    void Open() override;
+    void Close() override;
+    void showEvent(QShowEvent* event) override;
 
 private:
-    void Event_Open();
-    void Event_Close();
+    QWidget* buildLedgerColumn(QWidget* parent);
+    void buildAccountsRegion(QWidget* parent);
+    void buildTransactionsRegion(QWidget* parent);
+    QWidget* buildSearchField(QWidget* parent);
+    QWidget* buildBottomLine(QWidget* parent);
     void buildMenuBar();
+    void showTotals();
 
     SummaryBooks books_;
+    bool splitterPlaced_ = false;
 };

@@ -1,66 +1,17 @@
-#include "books/rowtable/ui/ListboxView.h"
 #include "books/ui/App.h"
-#include "books/ui/Windows.h"
 #include "books/ui/newBookWindow.h"
 #include "mainwindow/MenuBar1.h"
-#include "mainwindow/SummaryWindow.h"
-#include "support/DataFolder.h"
-#include "support/ScriptedPlatform.h"
+#include "mainwindow/SummaryWindowFixture.h"
 #include "update/ui/SplashWindow.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class SummaryWindowTest : public ::testing::Test {
-protected:
-    ~SummaryWindowTest() override
-    {
-        QList<QPointer<QWidget>> windows;
-        for (QWidget* window : QApplication::topLevelWidgets())
-            windows << window;
-        for (const QPointer<QWidget>& window : windows)
-            delete window.data(); // a dialog goes with its main window
-    }
-
-    void writeLedgers() const
-    {
-        home.makeFolders();
-        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n  Home\n");
-        writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n");
-        writeBytes(home.books() + u"/  ShopTransData"_s,
-                   "@#@Sales@#@2014-03-09@#@b@#@\n@#@Sales@#@2013-01-02@#@a@#@\n@#@Sales@#@2014-01-05@#@c@#@\n");
-    }
-
-    SummaryWindow* shownWindow() const
-    {
-        SummaryWindow* window = Windows::SummaryWindow();
-        window->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
-        return window;
-    }
-
-    static QPoint rowCenter(ListboxView* view, int row)
-    {
-        return view->visualRect(view->model()->index(row, 0)).center();
-    }
-
-    TempDataHome home;
-    ScriptedPlatform platform;
-};
-
-} // namespace
 
 TEST_F(SummaryWindowTest, StartMakesTheFoldersAndShowsTheMainWindowAfterTheStartScreen)
 {

@@ -285,6 +285,19 @@ void Listbox::SortRows(int column, Qt::SortOrder order)
     Q_EMIT resetDone();
 }
 
+void Listbox::moveRow(int from, int to)
+{
+    if (!validRow(from) || !validRow(to) || from == to)
+        return;
+    Q_EMIT aboutToReset();
+    if (from < to)
+        std::rotate(rows_.begin() + from, rows_.begin() + from + 1, rows_.begin() + to + 1);
+    else
+        std::rotate(rows_.begin() + to, rows_.begin() + from, rows_.begin() + from + 1);
+    recomputeFirstSelected();
+    Q_EMIT resetDone();
+}
+
 void Listbox::userToggledCheck(int row, int column)
 {
     if (!validRow(row) || !validFlagColumn(column))

@@ -126,6 +126,9 @@ public:
     // Stable sort of the rows by the text of a column, ignoring case, as a grid
     // does when its heading is pressed. Selections move with their rows.
     void SortRows(int column, Qt::SortOrder order);
+    // Moves a row with its flags and selection so that it ends up at index to,
+    // as a grid does when a row is dragged to another place.
+    void moveRow(int from, int to);
 
     // What the grid reports of the user: these change the table and fire the event.
     void userToggledCheck(int row, int column);

@@ -20,18 +20,39 @@ CellEditDelegate::CellEditDelegate(Listbox& table, QObject* parent)
 
 void CellEditDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
+    QStyleOptionViewItem cell(option);
+    initStyleOption(&cell, index);
+    const bool selected = cell.state & QStyle::State_Selected;
+    const CellLook look = look_ ? look_(index.row(), index.column(), selected) : CellLook();
+    if (look.verticalGridLine) {
+        const QRect edge(cell.rect.right(), cell.rect.top(), 1, cell.rect.height());
+        painter->fillRect(edge, cell.palette.color(QPalette::Mid));
+        cell.rect.setRight(cell.rect.right() - 1);
+    }
+    if (selected && look.selectionGradient) {
+        QLinearGradient gradient(cell.rect.topLeft(), cell.rect.bottomLeft());
+        gradient.setColorAt(0, look.gradientTop);
+        gradient.setColorAt(1, look.gradientBottom);
+        painter->fillRect(cell.rect, gradient);
+        painter->fillRect(QRect(cell.rect.left(), cell.rect.top(), cell.rect.width(), 1), look.gradientLine);
+        cell.state &= ~QStyle::State_Selected;
+    } else if (!selected && look.background.isValid()) {
+        painter->fillRect(cell.rect, look.background);
+    }
+    if (look.text.isValid()) {
+        cell.palette.setColor(QPalette::Text, look.text);
+        cell.palette.setColor(QPalette::HighlightedText, look.text);
+    }
+    QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
     const int offset = table_.ColumnAlignmentOffset(index.column());
     if (offset == 0) {
-        QStyledItemDelegate::paint(painter, option, index);
+        style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
         return;
     }
     // Background, check box and picture as usual, then the text within the
     // cell's text area moved by the offset (-5: five pixels further left).
-    QStyleOptionViewItem cell(option);
-    initStyleOption(&cell, index);
     const QString text = cell.text;
     cell.text.clear();
-    QStyle* style = cell.widget ? cell.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     QRect textArea = style->subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget);
     textArea.translate(offset, 0);

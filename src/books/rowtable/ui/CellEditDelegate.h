@@ -1,11 +1,13 @@
 #pragma once
 
+#include "books/rowtable/ui/CellLook.h"
+
 #include <QStyledItemDelegate>
 
 class Listbox;
 
-// Draws a table's cells and edits them in place. Drawing moves the text of a
-// column by its alignment offset. Editing lets the table see the edit start
+// Draws a table's cells and edits them in place. Drawing follows the window's
+// cell look and moves the text of a column by its alignment offset. Editing lets the table see the edit start
 // (CellGotFocus), every change of the text (CellTextChange, with the cell already
 // holding the new text) and its end (CellLostFocus).
 class CellEditDelegate : public QStyledItemDelegate {
@@ -19,9 +21,12 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
     void destroyEditor(QWidget* editor, const QModelIndex& index) const override;
 
+    void setCellLook(CellLookRule rule) { look_ = std::move(rule); }
+
     // Puts back the text the cell had when the edit began (the Escape key).
     void revert(QWidget* editor) const;
 
 private:
     Listbox& table_;
+    CellLookRule look_;
 };

@@ -5,7 +5,9 @@
 #include "books/rowtable/ui/CellEditDelegate.h"
 
 #include <QHeaderView>
+#include <QApplication>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTimer>
 
 ListboxView::ListboxView(Listbox& table, QWidget* parent)
@@ -53,6 +55,17 @@ void ListboxView::setSortable(bool sortable)
 {
     sortable_ = sortable;
     horizontalHeader()->setSortIndicatorShown(sortable);
+}
+
+void ListboxView::setCellLook(CellLookRule rule)
+{
+    static_cast<CellEditDelegate*>(itemDelegate())->setCellLook(std::move(rule));
+    viewport()->update();
+}
+
+void ListboxView::setRowsReorderable(bool reorderable)
+{
+    reorderable_ = reorderable;
 }
 
 void ListboxView::applyColumnSettings()
@@ -124,7 +137,73 @@ void ListboxView::mousePressEvent(QMouseEvent* event)
         table_.setSelectedRows({});
         return;
     }
+    if (reorderable_ && event->button() == Qt::LeftButton) {
+        dragRow_ = indexAt(event->position().toPoint()).row();
+        dragStart_ = event->position().toPoint();
+    }
     QTableView::mousePressEvent(event);
+}
+
+void ListboxView::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint point = event->position().toPoint();
+    if (dragRow_ >= 0 && (event->buttons() & Qt::LeftButton)) {
+        if (!dragging_ && (point - dragStart_).manhattanLength() >= QApplication::startDragDistance())
+            dragging_ = true;
+        if (dragging_) {
+            dropGap_ = gapAt(point);
+            viewport()->update();
+            return; // the drag moves the row, not the selection
+        }
+    }
+    QTableView::mouseMoveEvent(event);
+}
+
+void ListboxView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (dragging_) {
+        dropDraggedRow();
+        setState(NoState);
+        viewport()->update();
+        return;
+    }
+    dragRow_ = -1;
+    QTableView::mouseReleaseEvent(event);
+}
+
+int ListboxView::gapAt(const QPoint& point) const
+{
+    const int row = rowAt(point.y());
+    if (row < 0)
+        return point.y() < 0 ? 0 : table_.ListCount();
+    return point.y() < rowViewportPosition(row) + rowHeight(row) / 2 ? row : row + 1;
+}
+
+void ListboxView::dropDraggedRow()
+{
+    const int from = dragRow_;
+    const int newPosition = dropGap_ > from ? dropGap_ - 1 : dropGap_;
+    dragging_ = false;
+    dragRow_ = -1;
+    dropGap_ = -1;
+    if (from < 0 || newPosition < 0 || newPosition == from || from >= table_.ListCount())
+        return;
+    table_.moveRow(from, newPosition);
+    if (DragReorderRows && DragReorderRows(newPosition, -1))
+        table_.moveRow(newPosition, from);
+}
+
+void ListboxView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (!dragging_ || dropGap_ < 0 || table_.ListCount() == 0)
+        return;
+    // Where the dragged row will land.
+    const int y = dropGap_ < table_.ListCount()
+        ? rowViewportPosition(dropGap_)
+        : rowViewportPosition(table_.ListCount() - 1) + rowHeight(table_.ListCount() - 1);
+    QPainter painter(viewport());
+    painter.fillRect(QRect(0, y - 1, viewport()->width(), 2), palette().color(QPalette::Highlight));
 }
 
 void ListboxView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)

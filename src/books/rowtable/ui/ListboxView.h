@@ -1,6 +1,10 @@
 #pragma once
 
+#include "books/rowtable/ui/CellLook.h"
+
 #include <QTableView>
+
+#include <functional>
 
 class Listbox;
 class ListboxModel;
@@ -21,11 +25,23 @@ public:
     // A sortable grid sorts the table's rows when a heading is pressed; a second
     // press of the same heading reverses the order.
     void setSortable(bool sortable);
+    // Colours of rows and cells beyond the grid's own.
+    void setCellLook(CellLookRule rule);
+    // Lets the user drag a row to another place. The row moves first; then
+    // DragReorderRows(newPosition, parentRow) is asked, and when it answers true
+    // (refused) the row goes back where it was. newPosition is the row's index
+    // after the move; parentRow is always -1.
+    void setRowsReorderable(bool reorderable);
+    std::function<bool(int newPosition, int parentRow)> DragReorderRows;
+
     // Applies the table's headings, widths and check box columns to the grid.
     void applyColumnSettings();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -35,6 +51,10 @@ private:
     void takeViewSelection();
     void headerPressed(int column);
     void applyColumnWidths();
+    // The gap between rows nearest to a point: 0 above the first row, ListCount()
+    // below the last.
+    int gapAt(const QPoint& point) const;
+    void dropDraggedRow();
 
     Listbox& table_;
     ListboxModel* model_;
@@ -43,4 +63,9 @@ private:
     bool sortable_ = false;
     int sortColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
+    bool reorderable_ = false;
+    int dragRow_ = -1;  // the row pressed, while a drag may begin
+    QPoint dragStart_;
+    bool dragging_ = false;
+    int dropGap_ = -1;
 };
