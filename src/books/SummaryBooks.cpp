@@ -2,10 +2,12 @@
 
 #include "books/LedgerNames.h"
 #include "books/TextFiles.h"
+#include "engine/AccountMaintenance.h"
 #include "engine/BalanceCalculation.h"
 #include "engine/RowLayouts.h"
 #include "platform/BlockingServices.h"
 #include "platform/Numbers.h"
+#include "platform/TextHelpers.h"
 
 #include <QDir>
 #include <QFile>
@@ -235,6 +237,50 @@ bool SummaryBooks::accountsBox_DragReorderRows(int newPosition, int /*parentRow*
     }
     listboxManager.saveListBox(accountsBox, accountsFileName());
     return false;
+}
+
+void SummaryBooks::deleteSelectedAccount()
+{
+    const int row = accountsBox.ListIndex();
+    if (row < 0) {
+        MsgBox(u"No account selected."_s);
+        return;
+    }
+    deletingOn = true;
+    if (row == 0) {
+        MsgBox(u"The Base Account cannot be deleted."_s);
+        deletingOn = false;
+        return;
+    }
+    MessageDialog confirm;
+    confirm.Message = u"Are you sure you want to delete the account and all of its transactions?"_s;
+    confirm.Explanation = u"This action cannot be undone."_s;
+    confirm.ActionButton = u"Delete"_s;
+    confirm.CancelButton = u"Cancel"_s;
+    const bool confirmed = confirm.ShowModal() == MessageDialog::Button::Action;
+    deletingOn = false;
+    if (!confirmed)
+        return;
+    deleteAccountWithTransactions(accountsBox, transBox, row);
+    if (LedgerList.ListIndex() > -1)
+        listboxManager.saveListBox(accountsBox, accountsFileName());
+    calcAll();
+}
+
+QStringList SummaryBooks::transBox_ContextualMenuItems() const
+{
+    QStringList items;
+    for (int row = 1; row < accountsBox.ListCount(); ++row)
+        items << accountsBox.Cell(row, AccountCol::Number) + u'-' + accountsBox.Cell(row, AccountCol::Name);
+    return items;
+}
+
+void SummaryBooks::transBox_ContextualMenuAction(const QString& itemText)
+{
+    const int row = transBox.ListIndex();
+    transBox.SetCell(row, TransCol::Number, NthField(itemText, u"-", 1));
+    transBox.SetCell(row, TransCol::Account, NthField(itemText, u"-", 2));
+    calcAll();
 }
 
 void SummaryBooks::saveOpenLedger()

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 // The working data of the main window and the operations on it, without any
 // widget: the ledger list, the accounts and transactions of the open ledger, the
@@ -64,6 +65,13 @@ public:
     // Account, so a drop there is refused with a beep (true); any other is kept
     // and stored.
     bool accountsBox_DragReorderRows(int newPosition, int parentRow);
+    // The toolbar's Delete: the selected account and all its transactions, after
+    // the user's confirmation. The Base Account can't be deleted.
+    void deleteSelectedAccount();
+    // The context menu of transBox: one item "number-name" for every account but
+    // the Base Account; choosing one gives the selected transaction that account.
+    QStringList transBox_ContextualMenuItems() const;
+    void transBox_ContextualMenuAction(const QString& itemText);
     // Stores both tables of the open ledger, if one is open: the window closes.
     void saveOpenLedger();
 

@@ -9,6 +9,7 @@
 #include "engine/RowLayouts.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/SummaryColours.h"
+#include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
 #include "widgets/AutoButton.h"
 #include "widgets/Canvas.h"
@@ -24,7 +25,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -70,12 +70,8 @@ SummaryWindow::SummaryWindow(QWidget* parent)
     resize(990, 712);
     setMinimumSize(710, 500);
 
-    Toolbar11 = new QToolBar(u"Toolbar11"_s, this);
+    Toolbar11 = new Toolbar1(this);
     Toolbar11->setObjectName(u"Toolbar11"_s);
-    Toolbar11->setMovable(false);
-    Toolbar11->setFloatable(false);
-    Toolbar11->setIconSize(QSize(32, 32));
-    Toolbar11->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     addToolBar(Qt::TopToolBarArea, Toolbar11);
 
     auto* central = new QWidget(this);
@@ -118,8 +114,10 @@ SummaryWindow::SummaryWindow(QWidget* parent)
     connect(reconcilecheckbox, &QCheckBox::toggled, &books_, &SummaryBooks::reconcilecheckbox_Action);
     connect(WindowSplitter1, &WindowSplitter::SplitterMoved, this, &SummaryWindow::WindowSplitter1_SplitterMoved);
     connect(&books_, &SummaryBooks::totalsChanged, this, &SummaryWindow::showTotals);
+    connectCommands();
 
     // The controls open before the window.
+    Toolbar11->Open();
     WindowSplitter1_Open();
     for (AutoButton* button : {addtransbtn, deltransbtn, editTransBtn, Canvas7, endSearch, Canvas71, endSearch1})
         button->Event_Open();
@@ -284,13 +282,6 @@ QWidget* SummaryWindow::buildBottomLine(QWidget* parent)
     return line;
 }
 
-void SummaryWindow::buildMenuBar()
-{
-    setMenuBar(MenuBar1::build(this));
-    App::AddMenuHandlers(*menuBar());
-    MenuBar1::bind(*menuBar(), u"FileQuit"_s, this, [this] { close(); });
-}
-
 void SummaryWindow::WindowSplitter1_Open()
 {
     WindowSplitter1->AddControl(accountsBoxView, true);
@@ -329,11 +320,6 @@ void SummaryWindow::showEvent(QShowEvent* event)
 bool SummaryWindow::accountsBox_DragReorderRows(int newPosition, int parentRow)
 {
     return books_.accountsBox_DragReorderRows(newPosition, parentRow);
-}
-
-void SummaryWindow::makeNewAccount()
-{
-    // The account dialog for the Base Account opens here once accounts can be made.
 }
 
 void SummaryWindow::showTotals()

@@ -11,7 +11,8 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QToolBar;
+class QMenu;
+class Toolbar1;
 class WindowSplitter;
 
 // The main window: the ledger list at the left, the accounts of the open ledger
@@ -33,8 +34,11 @@ public:
     Listbox& transBox() { return books_.transBox; }
     void calcAll() { books_.calcAll(); }
 
+    // What printAll puts on paper: "accounts", "transactions" or "all".
+    QString printRequest;
+
     // The controls, by their design names, top to bottom.
-    QToolBar* Toolbar11 = nullptr;
+    Toolbar1* Toolbar11 = nullptr;
     ListboxView* LedgerListView = nullptr;
     QPushButton* PushButton3 = nullptr; // "+": new ledger
     QPushButton* PushButton4 = nullptr; // "-": delete ledger
@@ -66,6 +70,19 @@ public:
 
     void PushButton3_Action();
     void PushButton4_Action();
+    // --- commands ---
+    void Toolbar11_Action(QAction* item);
+    void Toolbar11_DropDownMenuAction(QAction* item, QAction* menuItem);
+    void Event_EnableMenuItems();
+    void _FilePrint_Action();
+    void _FileNewAccount_Action();
+    // Opens the account dialog on the selected account.
+    void editAccount();
+    void accountsBox_DoubleClick();
+    bool transBox_CellClick(int row, int column, int x, int y, bool contextual);
+    bool transBox_ConstructContextualMenu(QMenu& menu);
+    void transBox_ContextualMenuAction(QAction* item);
+
     void WindowSplitter1_Open();
     void WindowSplitter1_SplitterMoved() {}
     bool accountsBox_DragReorderRows(int newPosition, int parentRow);
@@ -86,6 +103,7 @@ private:
     QWidget* buildSearchField(QWidget* parent);
     QWidget* buildBottomLine(QWidget* parent);
     void buildMenuBar();
+    void connectCommands();
     void showTotals();
 
     SummaryBooks books_;

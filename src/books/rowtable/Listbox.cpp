@@ -69,6 +69,42 @@ void Listbox::RemoveRow(int row)
         notifySelection();
 }
 
+void Listbox::removeRowsWhere(const std::function<bool(int row)>& remove)
+{
+    std::vector<bool> gone(rows_.size());
+    bool any = false;
+    bool selectionGone = false;
+    for (int row = 0; row < ListCount(); ++row) {
+        if (remove(row)) {
+            gone[row] = true;
+            any = true;
+            selectionGone = selectionGone || rows_[row].selected_;
+        }
+    }
+    if (!any)
+        return;
+    Q_EMIT aboutToReset();
+    int kept = 0;
+    int newLastIndex = -1;
+    selectedCount_ = 0;
+    for (int row = 0; row < ListCount(); ++row) {
+        if (gone[row])
+            continue;
+        if (row == lastIndex_)
+            newLastIndex = kept;
+        selectedCount_ += rows_[row].selected_ ? 1 : 0;
+        if (kept != row)
+            rows_[kept] = std::move(rows_[row]);
+        ++kept;
+    }
+    rows_.erase(rows_.begin() + kept, rows_.end());
+    lastIndex_ = newLastIndex;
+    recomputeFirstSelected();
+    Q_EMIT resetDone();
+    if (selectionGone)
+        notifySelection();
+}
+
 void Listbox::DeleteAllRows()
 {
     replaceAllRows({});

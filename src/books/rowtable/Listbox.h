@@ -7,6 +7,7 @@
 #include <QStringView>
 #include <QVarLengthArray>
 
+#include <functional>
 #include <vector>
 
 // The row table: ordered rows of text cells with a selection. It is the working
@@ -72,6 +73,9 @@ public:
     void AddRow(QStringView text = {});
     void RemoveRow(int row);
     void DeleteAllRows();
+    // Removes every row for which remove(row) is true, with the same outcome as
+    // removing them one by one from the last to the first, in one pass.
+    void removeRowsWhere(const std::function<bool(int row)>& remove);
     // Puts rows in place of all present ones at once (a load).
     void replaceAllRows(std::vector<Row> rows);
 

@@ -6,6 +6,8 @@
 
 #include <QHeaderView>
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -131,15 +133,22 @@ void ListboxView::takeViewSelection()
 
 void ListboxView::mousePressEvent(QMouseEvent* event)
 {
+    const QPoint point = event->position().toPoint();
+    const QModelIndex cell = indexAt(point);
+    if (CellClick && cell.isValid()
+        && CellClick(cell.row(), cell.column(), point.x(), point.y(), event->button() == Qt::RightButton)) {
+        event->accept();
+        return;
+    }
     // A click below the last row takes the selection away.
-    if (!indexAt(event->position().toPoint()).isValid()) {
+    if (!cell.isValid()) {
         setFocus(Qt::MouseFocusReason);
         table_.setSelectedRows({});
         return;
     }
     if (reorderable_ && event->button() == Qt::LeftButton) {
-        dragRow_ = indexAt(event->position().toPoint()).row();
-        dragStart_ = event->position().toPoint();
+        dragRow_ = cell.row();
+        dragStart_ = point;
     }
     QTableView::mousePressEvent(event);
 }
@@ -191,6 +200,24 @@ void ListboxView::dropDraggedRow()
     table_.moveRow(from, newPosition);
     if (DragReorderRows && DragReorderRows(newPosition, -1))
         table_.moveRow(newPosition, from);
+}
+
+void ListboxView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!ConstructContextualMenu)
+        return;
+    // Shown without waiting, so the program goes on while the menu is up.
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (!ConstructContextualMenu(*menu)) {
+        delete menu;
+        return;
+    }
+    connect(menu, &QMenu::triggered, this, [this](QAction* item) {
+        if (ContextualMenuAction)
+            ContextualMenuAction(item);
+    });
+    menu->popup(event->globalPos());
 }
 
 void ListboxView::paintEvent(QPaintEvent* event)

@@ -8,6 +8,7 @@
 
 class Listbox;
 class ListboxModel;
+class QMenu;
 
 // A grid on screen over a row table. It keeps no rows of its own: selection,
 // check boxes, in-place edits and heading presses go to the table, which fires
@@ -33,6 +34,13 @@ public:
     // after the move; parentRow is always -1.
     void setRowsReorderable(bool reorderable);
     std::function<bool(int newPosition, int parentRow)> DragReorderRows;
+    // A press on a cell; contextual for the button that opens a context menu.
+    // Answering true consumes the press: the selection stays as it was.
+    std::function<bool(int row, int column, int x, int y, bool contextual)> CellClick;
+    // Fills the context menu; answering false shows none. The chosen item goes
+    // to ContextualMenuAction.
+    std::function<bool(QMenu& menu)> ConstructContextualMenu;
+    std::function<void(QAction* item)> ContextualMenuAction;
 
     // Applies the table's headings, widths and check box columns to the grid.
     void applyColumnSettings();
@@ -42,6 +50,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;

@@ -1,0 +1,175 @@
+// The main window's commands: menu bar, toolbar, the accounts' double click and
+// the context menu of the transactions.
+#include "mainwindow/SummaryWindow.h"
+
+#include "books/rowtable/ui/ListboxView.h"
+#include "books/ui/App.h"
+#include "books/ui/Windows.h"
+#include "engine/RowLayouts.h"
+#include "engine/ui/AccountWindow.h"
+#include "mainwindow/MenuBar1.h"
+#include "mainwindow/Toolbar1.h"
+#include "platform/BlockingServices.h"
+#include "widgets/Canvas.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kNoLedger = u"No ledger selected."_s;
+
+} // namespace
+
+void SummaryWindow::buildMenuBar()
+{
+    setMenuBar(MenuBar1::build(this));
+    const QMenuBar& bar = *menuBar();
+    App::AddMenuHandlers(bar);
+    MenuBar1::bind(bar, u"FileQuit"_s, this, [this] { close(); });
+    MenuBar1::bind(bar, u"FilePrint"_s, this, [this] { _FilePrint_Action(); });
+    MenuBar1::bind(bar, u"FileNewAccount"_s, this, [this] { _FileNewAccount_Action(); });
+    if (QMenu* file = bar.findChild<QMenu*>(u"FileMenu"_s))
+        connect(file, &QMenu::aboutToShow, this, &SummaryWindow::Event_EnableMenuItems);
+}
+
+void SummaryWindow::connectCommands()
+{
+    connect(Toolbar11, &Toolbar1::Action, this, &SummaryWindow::Toolbar11_Action);
+    connect(Toolbar11, &Toolbar1::DropDownMenuAction, this, &SummaryWindow::Toolbar11_DropDownMenuAction);
+    // Opening or closing a ledger changes what the menus offer.
+    connect(&books_, &SummaryBooks::importAvailable, this, &SummaryWindow::Event_EnableMenuItems);
+    connect(&books_.accountsBox, &Listbox::DoubleClick, this, &SummaryWindow::accountsBox_DoubleClick);
+    transBoxView->CellClick = [this](int row, int column, int x, int y, bool contextual) {
+        return transBox_CellClick(row, column, x, y, contextual);
+    };
+    transBoxView->ConstructContextualMenu = [this](QMenu& menu) { return transBox_ConstructContextualMenu(menu); };
+    transBoxView->ContextualMenuAction = [this](QAction* item) { transBox_ContextualMenuAction(item); };
+    Event_EnableMenuItems();
+}
+
+void SummaryWindow::Event_EnableMenuItems()
+{
+    const QMenuBar& bar = *menuBar();
+    for (const QString& name : {u"FilePrint"_s, u"FileNewAccount"_s, u"FileNewTransaction"_s})
+        MenuBar1::item(bar, name)->setEnabled(true);
+    const bool ledgerOpen = books_.LedgerList.ListIndex() > -1;
+    MenuBar1::item(bar, u"FileImportData"_s)->setEnabled(ledgerOpen);
+    MenuBar1::item(bar, u"FileExportData"_s)->setEnabled(ledgerOpen);
+}
+
+void SummaryWindow::_FilePrint_Action()
+{
+    printRequest = u"all"_s;
+}
+
+void SummaryWindow::_FileNewAccount_Action()
+{
+    ::AccountWindow* dialog = Windows::AccountWindow();
+    dialog->nameChanged = true;
+    dialog->show();
+}
+
+void SummaryWindow::Toolbar11_Action(QAction* item)
+{
+    const QString name = item->objectName();
+    const bool ledgerOpen = books_.LedgerList.ListIndex() != -1;
+    if (name == u"Add") {
+        if (!ledgerOpen)
+            return MsgBox(kNoLedger);
+        _FileNewAccount_Action();
+    } else if (name == u"Delete") {
+        books_.deleteSelectedAccount();
+        return; // the calculation redraws the tables
+    } else if (name == u"Edit") {
+        editAccount();
+    } else if (name == u"Transactions") {
+        if (books_.accountsBox.ListIndex() <= 0)
+            return MsgBox(u"No account selected"_s);
+    } else if (name == u"Transfer" || name == u"Ledger" || name == u"Graphs") {
+        if (!ledgerOpen)
+            return MsgBox(kNoLedger);
+    }
+    update();
+}
+
+void SummaryWindow::Toolbar11_DropDownMenuAction(QAction*, QAction* menuItem)
+{
+    if (books_.LedgerList.ListIndex() == -1)
+        return MsgBox(kNoLedger);
+    const QString text = menuItem->text();
+    if (text == u"Print/Save Accounts")
+        printRequest = u"accounts"_s;
+    else if (text == u"Print/Save Transactions")
+        printRequest = u"transactions"_s;
+    else if (text == u"Print/Save Both")
+        printRequest = u"all"_s;
+    update();
+}
+
+void SummaryWindow::makeNewAccount()
+{
+    if (books_.accountsBox.ListCount() > 0) {
+        calcAll();
+        return;
+    }
+    Windows::AccountWindow()->prepareBaseAccount();
+}
+
+void SummaryWindow::editAccount()
+{
+    const Listbox& accounts = books_.accountsBox;
+    const int row = accounts.ListIndex();
+    if (row < 0)
+        return MsgBox(u"No account selected."_s);
+    ::AccountWindow* dialog = Windows::AccountWindow();
+    if (row == 0) {
+        dialog->hideAccountType();
+        dialog->Canvas2->hide();
+    }
+    dialog->oldName = accounts.Cell(row, AccountCol::Name);
+    dialog->editingOn = true;
+    dialog->windowOpening = true;
+    dialog->EditField1->setText(dialog->oldName);
+    // The type of an account never changes after it was made.
+    const bool revenue = isWord(accounts.CellView(row, AccountCol::Type), AccountType::Revenue);
+    (revenue ? dialog->RadioButton1 : dialog->RadioButton2)->setChecked(true);
+    dialog->RadioButton1->setEnabled(false);
+    dialog->RadioButton2->setEnabled(false);
+    dialog->EditField3->setText(accounts.Cell(row, AccountCol::Opening));
+    dialog->EditField4->setPlainText(accounts.Cell(row, AccountCol::Notes));
+    dialog->PushButton1->setEnabled(true);
+    dialog->show();
+    dialog->windowOpening = false;
+}
+
+void SummaryWindow::accountsBox_DoubleClick()
+{
+    if (books_.accountsBox.ListIndex() != 0)
+        editAccount();
+}
+
+bool SummaryWindow::transBox_CellClick(int, int column, int, int, bool contextual)
+{
+    // A right click leaves the selection alone: the menu acts on the selected row.
+    return contextual && column != 0;
+}
+
+bool SummaryWindow::transBox_ConstructContextualMenu(QMenu& menu)
+{
+    for (const QString& text : books_.transBox_ContextualMenuItems())
+        menu.addAction(text);
+    return true;
+}
+
+void SummaryWindow::transBox_ContextualMenuAction(QAction* item)
+{
+    books_.transBox_ContextualMenuAction(item->text());
+}
