@@ -202,12 +202,7 @@ void SummaryBooks::deleteLedger()
 {
     if (LedgerList.ListIndex() == -1)
         return;
-    MessageDialog dialog;
-    dialog.Message = u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?"_s;
-    dialog.Explanation = u"This action cannot be undone."_s;
-    dialog.ActionButton = u"Delete"_s;
-    dialog.CancelButton = u"Cancel"_s;
-    if (dialog.ShowModal() != MessageDialog::Button::Action)
+    if (!confirmDeletion(u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?"_s))
         return;
 
     deletingOn = true;
@@ -252,12 +247,8 @@ void SummaryBooks::deleteSelectedAccount()
         deletingOn = false;
         return;
     }
-    MessageDialog confirm;
-    confirm.Message = u"Are you sure you want to delete the account and all of its transactions?"_s;
-    confirm.Explanation = u"This action cannot be undone."_s;
-    confirm.ActionButton = u"Delete"_s;
-    confirm.CancelButton = u"Cancel"_s;
-    const bool confirmed = confirm.ShowModal() == MessageDialog::Button::Action;
+    const bool confirmed =
+        confirmDeletion(u"Are you sure you want to delete the account and all of its transactions?"_s);
     deletingOn = false;
     if (!confirmed)
         return;

@@ -78,3 +78,13 @@ void Quit()
 {
     current().quit();
 }
+
+bool confirmDeletion(const QString& message)
+{
+    MessageDialog dialog;
+    dialog.Message = message;
+    dialog.Explanation = QStringLiteral("This action cannot be undone.");
+    dialog.ActionButton = QStringLiteral("Delete");
+    dialog.CancelButton = QStringLiteral("Cancel");
+    return dialog.ShowModal() == MessageDialog::Button::Action;
+}

@@ -35,6 +35,10 @@ BlockingServiceHooks installBlockingServices(const BlockingServiceHooks& hooks);
 const BlockingServiceHooks& blockingServices();
 
 void MsgBox(const QString& message);
+// Asks before something that can't be undone: the message, the explanation
+// "This action cannot be undone." and the buttons "Delete" and "Cancel". True
+// when the user chose "Delete".
+bool confirmDeletion(const QString& message);
 void Beep();
 void ShowURL(const QString& url);
 void Quit();
