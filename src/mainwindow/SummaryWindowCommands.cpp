@@ -46,6 +46,7 @@ void SummaryWindow::connectCommands()
     connect(Toolbar11, &Toolbar1::DropDownMenuAction, this, &SummaryWindow::Toolbar11_DropDownMenuAction);
     // Opening or closing a ledger changes what the menus offer.
     connect(&books_, &SummaryBooks::importAvailable, this, &SummaryWindow::Event_EnableMenuItems);
+    connect(&books_, &SummaryBooks::searchFieldCleared, EditField1, &QLineEdit::clear);
     connect(&books_.accountsBox, &Listbox::DoubleClick, this, &SummaryWindow::accountsBox_DoubleClick);
     transBoxView->CellClick = [this](int row, int column, int x, int y, bool contextual) {
         return transBox_CellClick(row, column, x, y, contextual);

@@ -162,6 +162,7 @@ TEST_F(SummaryWindowEventsTest, TheAccountHeadingsCantBePressed)
 
 TEST_F(SummaryWindowEventsTest, TheSplitterCarriesTheTwoRegionsAndNothingElse)
 {
+    writeLedgers();
     SummaryWindow* window = shownWindow();
     WindowSplitter* splitter = window->WindowSplitter1;
     EXPECT_EQ(splitter->MinBeforeArea(), 150);
@@ -177,5 +178,10 @@ TEST_F(SummaryWindowEventsTest, TheSplitterCarriesTheTwoRegionsAndNothingElse)
     EXPECT_TRUE(window->GroupBox1->isAncestorOf(window->accountsBoxView));
     EXPECT_TRUE(window->GroupBox2->isAncestorOf(window->transBoxView));
     EXPECT_EQ(window->separatorFld->text(), u"1234.00");
+
+    // Opening a ledger empties the search field.
+    window->EditField1->setText(u"rent"_s);
+    window->LedgerList().SetListIndex(0);
+    EXPECT_EQ(window->EditField1->text(), u"");
     EXPECT_EQ(window->books().separatorType, u"period");
 }
