@@ -23,8 +23,8 @@ windowSpecsClass* entryOf(const QString& title)
 
 std::vector<windowSpecsClass>& windowSpecs()
 {
-    static std::vector<windowSpecsClass> specs;
-    return specs;
+    static std::vector<windowSpecsClass> remembered;
+    return remembered;
 }
 
 QRect getMySpecs(const QString& title, const QRect& present)

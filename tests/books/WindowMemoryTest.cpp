@@ -43,13 +43,6 @@ TEST_F(WindowMemoryTest, AWindowGetsBackThePlaceOfItsTitleWithinOneRun)
     EXPECT_EQ(readBytes(windowData()), QByteArray("Ledger Summary;120;90;723;507\n  Shop - Summary;-5;0;300;200\n"));
 }
 
-TEST_F(WindowMemoryTest, ANewRunForgetsWhatTheFileHolds)
-{
-    writeBytes(windowData(), "Ledger Summary;120;90;723;507\n");
-    const QRect fresh(40, 30, 723, 507);
-    EXPECT_EQ(smartWindowsGlobals::getMySpecs(u"Ledger Summary"_s, fresh), fresh);
-}
-
 TEST_F(WindowMemoryTest, MainWindowPlaceIsTopLeftWidthHeight)
 {
     home.makeFolders();
