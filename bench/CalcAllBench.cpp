@@ -1,7 +1,7 @@
 // The balance calculation of a ledger of 200 accounts with 1,000 to 100,000
 // transactions: calcAll as a whole (both saves included), and beside it the
 // plain account-by-account scan of the same sums, without saves.
-#include "books/SummaryBooks.h"
+#include "ledger/SummaryBooks.h"
 #include "engine/RowLayouts.h"
 #include "reference/AccountByAccountScan.h"
 #include "reference/GeneratedLedger.h"

@@ -2,7 +2,7 @@
 // ledger in the visible window up to its first painted screen, and scrolling the
 // transactions from the top to the end with the repaint that follows.
 #include "books/rowtable/ui/ListboxView.h"
-#include "books/ui/Windows.h"
+#include "app/Windows.h"
 #include "mainwindow/SummaryWindow.h"
 #include "reference/GeneratedLedger.h"
 

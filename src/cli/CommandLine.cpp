@@ -2,7 +2,7 @@
 
 #include "books/AppFolders.h"
 #include "books/LedgerNames.h"
-#include "books/SummaryBooks.h"
+#include "ledger/SummaryBooks.h"
 #include "engine/RowLayouts.h"
 
 #include <QCommandLineParser>

@@ -3,8 +3,6 @@
 #include "books/AppFolders.h"
 #include "books/WindowMemory.h"
 #include "books/rowtable/ui/ListboxView.h"
-#include "books/ui/App.h"
-#include "books/ui/Windows.h"
 #include "books/ui/newBookWindow.h"
 #include "engine/RowLayouts.h"
 #include "mainwindow/MenuBar1.h"
@@ -55,14 +53,9 @@ QLabel* label(QWidget* parent, const QString& name, const QString& text)
 
 } // namespace
 
-::SummaryWindow* Windows::SummaryWindow()
-{
-    static QPointer<::SummaryWindow> instance;
-    return accessWindow(instance);
-}
-
-SummaryWindow::SummaryWindow(QWidget* parent)
+SummaryWindow::SummaryWindow(SummaryDialogs dialogs, QWidget* parent)
     : smartWindow(parent)
+    , dialogs_(std::move(dialogs))
     , books_(AppFolders::existingBooks(AppFolders::applicationData()))
 {
     setObjectName(u"SummaryWindow"_s);
@@ -297,7 +290,7 @@ void SummaryWindow::Open()
 
 void SummaryWindow::PushButton3_Action()
 {
-    Windows::newBookWindow()->show();
+    dialogs_.newBookWindow()->show();
 }
 
 void SummaryWindow::PushButton4_Action()

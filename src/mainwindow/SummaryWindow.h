@@ -1,7 +1,8 @@
 #pragma once
 
-#include "books/SummaryBooks.h"
 #include "books/ui/smartWindow.h"
+#include "ledger/SummaryBooks.h"
+#include "mainwindow/SummaryDialogs.h"
 
 class AutoButton;
 class Canvas;
@@ -17,13 +18,14 @@ class WindowSplitter;
 
 // The main window: the ledger list at the left, the accounts of the open ledger
 // at the upper right and its transactions below. It shows the tables of its
-// SummaryBooks and forwards the user's actions to them. Closing it stores the
-// open ledger and ends the application.
+// SummaryBooks and forwards the user's actions to them; the dialogs it opens come
+// from the accessors it is given. Closing it stores the open ledger and ends the
+// application.
 class SummaryWindow : public smartWindow {
     Q_OBJECT
 
 public:
-    explicit SummaryWindow(QWidget* parent = nullptr);
+    explicit SummaryWindow(SummaryDialogs dialogs, QWidget* parent = nullptr);
     ~SummaryWindow() override;
 
     SummaryBooks& books() { return books_; }
@@ -106,6 +108,7 @@ private:
     void connectCommands();
     void showTotals();
 
+    SummaryDialogs dialogs_;
     SummaryBooks books_;
     bool splitterPlaced_ = false;
 };

@@ -3,22 +3,15 @@
 #include "mainwindow/SummaryWindow.h"
 
 #include "books/rowtable/ui/ListboxView.h"
-#include "books/ui/App.h"
-#include "books/ui/Windows.h"
-#include "engine/RowLayouts.h"
 #include "engine/ui/AccountWindow.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
-#include "widgets/Canvas.h"
 
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +25,6 @@ void SummaryWindow::buildMenuBar()
 {
     setMenuBar(MenuBar1::build(this));
     const QMenuBar& bar = *menuBar();
-    App::AddMenuHandlers(bar);
     MenuBar1::bind(bar, u"FileQuit"_s, this, [this] { close(); });
     MenuBar1::bind(bar, u"FilePrint"_s, this, [this] { _FilePrint_Action(); });
     MenuBar1::bind(bar, u"FileNewAccount"_s, this, [this] { _FileNewAccount_Action(); });
@@ -73,7 +65,7 @@ void SummaryWindow::_FilePrint_Action()
 
 void SummaryWindow::_FileNewAccount_Action()
 {
-    ::AccountWindow* dialog = Windows::AccountWindow();
+    ::AccountWindow* dialog = dialogs_.AccountWindow();
     dialog->nameChanged = true;
     dialog->show();
 }
@@ -121,34 +113,15 @@ void SummaryWindow::makeNewAccount()
         calcAll();
         return;
     }
-    Windows::AccountWindow()->prepareBaseAccount();
+    dialogs_.AccountWindow()->prepareBaseAccount();
 }
 
 void SummaryWindow::editAccount()
 {
-    const Listbox& accounts = books_.accountsBox;
-    const int row = accounts.ListIndex();
+    const int row = books_.accountsBox.ListIndex();
     if (row < 0)
         return MsgBox(u"No account selected."_s);
-    ::AccountWindow* dialog = Windows::AccountWindow();
-    if (row == 0) {
-        dialog->hideAccountType();
-        dialog->Canvas2->hide();
-    }
-    dialog->oldName = accounts.Cell(row, AccountCol::Name);
-    dialog->editingOn = true;
-    dialog->windowOpening = true;
-    dialog->EditField1->setText(dialog->oldName);
-    // The type of an account never changes after it was made.
-    const bool revenue = isWord(accounts.CellView(row, AccountCol::Type), AccountType::Revenue);
-    (revenue ? dialog->RadioButton1 : dialog->RadioButton2)->setChecked(true);
-    dialog->RadioButton1->setEnabled(false);
-    dialog->RadioButton2->setEnabled(false);
-    dialog->EditField3->setText(accounts.Cell(row, AccountCol::Opening));
-    dialog->EditField4->setPlainText(accounts.Cell(row, AccountCol::Notes));
-    dialog->PushButton1->setEnabled(true);
-    dialog->show();
-    dialog->windowOpening = false;
+    dialogs_.AccountWindow()->editAccount(row);
 }
 
 void SummaryWindow::accountsBox_DoubleClick()

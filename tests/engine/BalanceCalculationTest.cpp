@@ -1,4 +1,4 @@
-#include "books/SummaryBooks.h"
+#include "ledger/SummaryBooks.h"
 #include "engine/BalanceCalculation.h"
 #include "engine/RowLayouts.h"
 #include "reference/AccountByAccountScan.h"

@@ -2,7 +2,7 @@
 
 #include "books/WindowMemory.h"
 #include "books/rowtable/ui/ListboxView.h"
-#include "books/ui/Windows.h"
+#include "app/Windows.h"
 #include "mainwindow/SummaryWindow.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"

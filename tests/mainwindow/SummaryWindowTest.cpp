@@ -1,8 +1,8 @@
-#include "books/ui/App.h"
+#include "app/App.h"
 #include "books/ui/newBookWindow.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/SummaryWindowFixture.h"
-#include "update/ui/SplashWindow.h"
+#include "app/SplashWindow.h"
 
 #include <QDir>
 #include <QHeaderView>

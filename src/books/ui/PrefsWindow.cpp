@@ -1,7 +1,6 @@
 #include "books/ui/PrefsWindow.h"
 
 #include "books/prefsDictionary.h"
-#include "books/ui/Windows.h"
 #include "platform/ui/DialogLayout.h"
 
 #include <QLabel>
@@ -9,12 +8,6 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
-
-::PrefsWindow* Windows::PrefsWindow()
-{
-    static QPointer<::PrefsWindow> instance;
-    return accessWindow(instance);
-}
 
 PrefsWindow::PrefsWindow()
 {

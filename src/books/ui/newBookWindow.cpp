@@ -1,8 +1,7 @@
 #include "books/ui/newBookWindow.h"
 
-#include "books/ui/Windows.h"
+#include "ledger/SummaryBooks.h"
 #include "platform/ui/DialogLayout.h"
-#include "mainwindow/SummaryWindow.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -11,14 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-::newBookWindow* Windows::newBookWindow()
-{
-    static QPointer<::newBookWindow> instance;
-    return accessWindow(instance);
-}
-
-newBookWindow::newBookWindow()
-    : QDialog(Windows::SummaryWindow())
+newBookWindow::newBookWindow(SummaryBooks& books, QWidget* parent)
+    : QDialog(parent)
+    , books_(books)
 {
     setObjectName(u"newBookWindow"_s);
     setWindowTitle(u"New Ledger"_s);
@@ -52,12 +46,11 @@ bool newBookWindow::eventFilter(QObject* watched, QEvent* event)
 
 void newBookWindow::PushButton1_Action()
 {
-    ::SummaryWindow* summary = Windows::SummaryWindow();
-    if (!summary->books().addLedger(EditField1->text())) {
+    if (!books_.addLedger(EditField1->text())) {
         EditField1->setFocus();
         return;
     }
-    summary->makeNewAccount();
-    summary->books().saveBooks();
+    Q_EMIT ledgerAdded();
+    books_.saveBooks();
     close();
 }

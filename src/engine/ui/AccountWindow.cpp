@@ -1,8 +1,8 @@
 #include "engine/ui/AccountWindow.h"
 
-#include "books/ui/Windows.h"
+#include "engine/AccountMaintenance.h"
 #include "engine/RowLayouts.h"
-#include "mainwindow/SummaryWindow.h"
+#include "ledger/SummaryBooks.h"
 #include "platform/BlockingServices.h"
 #include "widgets/Canvas.h"
 
@@ -23,14 +23,9 @@ const QString kAmountLabel = u"Amount:"_s;
 
 } // namespace
 
-::AccountWindow* Windows::AccountWindow()
-{
-    static QPointer<::AccountWindow> instance;
-    return accessWindow(instance);
-}
-
-AccountWindow::AccountWindow()
-    : QDialog(Windows::SummaryWindow())
+AccountWindow::AccountWindow(SummaryBooks& books, QWidget* parent)
+    : QDialog(parent)
+    , books_(books)
 {
     setObjectName(u"AccountWindow"_s);
     setWindowTitle(u"Account Information"_s);
@@ -109,6 +104,30 @@ void AccountWindow::prepareBaseAccount()
     EditField3->setFocus();
 }
 
+void AccountWindow::editAccount(int row)
+{
+    const Listbox& accounts = books_.accountsBox;
+    if (row == 0) {
+        hideAccountType();
+        Canvas2->hide();
+    }
+    editedRow_ = row;
+    oldName = accounts.Cell(row, AccountCol::Name);
+    editingOn = true;
+    windowOpening = true;
+    EditField1->setText(oldName);
+    // The type of an account never changes after it was made.
+    const bool revenue = isWord(accounts.CellView(row, AccountCol::Type), AccountType::Revenue);
+    (revenue ? RadioButton1 : RadioButton2)->setChecked(true);
+    RadioButton1->setEnabled(false);
+    RadioButton2->setEnabled(false);
+    EditField3->setText(accounts.Cell(row, AccountCol::Opening));
+    EditField4->setPlainText(accounts.Cell(row, AccountCol::Notes));
+    PushButton1->setEnabled(true);
+    show();
+    windowOpening = false;
+}
+
 void AccountWindow::showTypePicture()
 {
     Canvas2->setBackdrop(Picture::named(RadioButton1->isChecked() ? u"accountPlus9"_s : u"accountMinus9"_s));
@@ -135,26 +154,12 @@ AccountFields AccountWindow::fields() const
 void AccountWindow::PushButton1_Action()
 {
     EditField4->setFocus(); // ends an edit under way
-    SummaryBooks& books = Windows::SummaryWindow()->books();
-    const AccountFields typed = fields();
-    if (nameChanged && checkName(books.accountsBox, typed.name)) {
-        MsgBox(u"That account name is already in use. Please enter a different name."_s);
-        EditField1->setFocus();
-        return;
-    }
-    if (const QString problem = accountFieldsProblem(typed); !problem.isEmpty()) {
+    const QString problem = books_.saveAccount(fields(), nameChanged, editingOn ? editedRow_ : -1, oldName);
+    if (!problem.isEmpty()) {
         MsgBox(problem);
         EditField1->setFocus();
         return;
     }
-    if (!editingOn) {
-        addAccount(books.accountsBox, typed);
-    } else {
-        editAccountRow(books.accountsBox, books.accountsBox.ListIndex(), typed);
-        updateAccountIDName(books.transBox, oldName, typed.name);
-    }
-    books.listboxManager.saveListBox(books.accountsBox, books.accountsFileName());
-    books.calcAll();
     close();
 }
 

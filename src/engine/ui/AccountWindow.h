@@ -1,24 +1,25 @@
 #pragma once
 
-#include "engine/AccountMaintenance.h"
-
 #include <QDialog>
 
 class Canvas;
+class SummaryBooks;
+struct AccountFields;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 
-// "Account Information": adds an account to the open ledger or edits the
-// selected one, as a sheet over the main window. The main window prepares it
-// (makeNewAccount, editAccount); the toolbar's Add shows it as it is.
+// "Account Information": adds an account to the open ledger or edits one of its
+// rows, as a sheet over the main window. It works on the books it is given; the
+// main window prepares it (makeNewAccount, editAccount) and the toolbar's Add
+// shows it as it is.
 class AccountWindow : public QDialog {
     Q_OBJECT
 
 public:
-    AccountWindow();
+    AccountWindow(SummaryBooks& books, QWidget* parent);
 
     bool editingOn = false;     // an existing row is edited
     bool nameChanged = false;   // the name must be checked for uniqueness on OK
@@ -41,6 +42,9 @@ public:
     // Shows the dialog for the Base Account of a new ledger: the amount and the
     // notes' hint, no type.
     void prepareBaseAccount();
+    // Shows the dialog filled from an account row, to edit it. The type can't be
+    // changed; row 0, the Base Account, shows none.
+    void editAccount(int row);
     // Hides the type, as the Base Account has none.
     void hideAccountType();
 
@@ -53,4 +57,7 @@ protected:
 private:
     AccountFields fields() const;
     void showTypePicture();
+
+    SummaryBooks& books_;
+    int editedRow_ = -1;
 };

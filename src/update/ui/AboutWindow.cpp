@@ -1,19 +1,11 @@
 #include "update/ui/AboutWindow.h"
 
-#include "books/ui/Windows.h"
-
 #include <QGuiApplication>
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-::AboutWindow* Windows::AboutWindow()
-{
-    static QPointer<::AboutWindow> instance;
-    return accessWindow(instance);
-}
 
 AboutWindow::AboutWindow()
 {

@@ -1,15 +1,15 @@
-#include "books/ui/App.h"
+#include "app/App.h"
 
+#include "app/SplashWindow.h"
+#include "app/Windows.h"
 #include "books/AppFolders.h"
 #include "books/prefsDictionary.h"
 #include "books/ui/PrefsWindow.h"
-#include "books/ui/Windows.h"
 #include "mainwindow/MenuBar1.h"
 #include "platform/BlockingServices.h"
 #include "update/Server.h"
 #include "update/StartupGlobals.h"
 #include "update/ui/AboutWindow.h"
-#include "update/ui/SplashWindow.h"
 
 #include <QApplication>
 #include <QMenuBar>

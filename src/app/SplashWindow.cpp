@@ -1,6 +1,6 @@
-#include "update/ui/SplashWindow.h"
+#include "app/SplashWindow.h"
 
-#include "books/ui/Windows.h"
+#include "app/Windows.h"
 #include "mainwindow/SummaryWindow.h"
 
 #include <QGuiApplication>
@@ -11,12 +11,6 @@
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-::SplashWindow* Windows::SplashWindow()
-{
-    static QPointer<::SplashWindow> instance;
-    return accessWindow(instance);
-}
 
 SplashWindow::SplashWindow()
     : QWidget(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::FramelessWindowHint)
@@ -58,8 +52,6 @@ SplashWindow::SplashWindow()
 
 void SplashWindow::Timer1_Action()
 {
-    ::SummaryWindow* summary = Windows::SummaryWindow();
-    summary->setVisible(true);
-    summary->show();
+    Q_EMIT finished();
     close();
 }

@@ -3,6 +3,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
+
 class SummaryWindow;
 class newBookWindow;
 class SplashWindow;
@@ -10,26 +12,26 @@ class AboutWindow;
 class PrefsWindow;
 class AccountWindow;
 
-#include <functional>
-
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
 void forgetOnClose(QWidget* window, std::function<void()> forget);
 
-// The one instance of each window, made on first access. A window deletes itself
-// when it closes, so the next access after that makes a new one, also while the
-// closed one still waits to be deleted.
-template <typename W>
-W* accessWindow(QPointer<W>& instance)
+// The one instance of a window, made by make() on first access. A window deletes
+// itself when it closes, so the next access after that makes a new one, also
+// while the closed one still waits to be deleted.
+template <typename W, typename Make>
+W* accessWindow(QPointer<W>& instance, Make make)
 {
     if (!instance) {
-        instance = new W();
+        instance = make();
         instance->setAttribute(Qt::WA_DeleteOnClose);
         forgetOnClose(instance, [&instance] { instance.clear(); });
     }
     return instance;
 }
 
+// The window accessors. Each makes its window with the data it works on and
+// connects it to the windows it reports to; no other place makes a window.
 namespace Windows {
 ::SummaryWindow* SummaryWindow();
 ::newBookWindow* newBookWindow();

@@ -5,7 +5,7 @@
 class QLabel;
 class QTimer;
 
-// The start screen: stands for one second, then gives way to the main window.
+// The start screen: stands for one second, then says it is done and closes.
 class SplashWindow : public QWidget {
     Q_OBJECT
 
@@ -18,4 +18,8 @@ public:
     QTimer* Timer1;
 
     void Timer1_Action();
+
+Q_SIGNALS:
+    // The second is over: the main window takes the screen's place.
+    void finished();
 };

@@ -1,4 +1,4 @@
-#include "books/SummaryBooks.h"
+#include "ledger/SummaryBooks.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 

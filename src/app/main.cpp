@@ -1,4 +1,4 @@
-#include "books/ui/App.h"
+#include "app/App.h"
 #include "platform/ui/DesktopServices.h"
 
 #include <QApplication>

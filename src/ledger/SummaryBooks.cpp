@@ -1,4 +1,4 @@
-#include "books/SummaryBooks.h"
+#include "ledger/SummaryBooks.h"
 
 #include "books/LedgerNames.h"
 #include "books/TextFiles.h"
@@ -214,6 +214,23 @@ void SummaryBooks::deleteLedger()
     saveBooks();
     delLedger = false;
     deletingOn = false;
+}
+
+QString SummaryBooks::saveAccount(const AccountFields& fields, bool checkUnique, int editedRow, const QString& oldName)
+{
+    if (checkUnique && checkName(accountsBox, fields.name))
+        return u"That account name is already in use. Please enter a different name."_s;
+    if (const QString problem = accountFieldsProblem(fields); !problem.isEmpty())
+        return problem;
+    if (editedRow < 0) {
+        addAccount(accountsBox, fields);
+    } else {
+        editAccountRow(accountsBox, editedRow, fields);
+        updateAccountIDName(transBox, oldName, fields.name);
+    }
+    listboxManager.saveListBox(accountsBox, accountsFileName());
+    calcAll();
+    return {};
 }
 
 void SummaryBooks::transBox_CellAction(int row, int column)

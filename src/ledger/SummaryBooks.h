@@ -2,6 +2,7 @@
 
 #include "books/rowtable/Listbox.h"
 #include "books/rowtable/ListboxManager.h"
+#include "engine/AccountMaintenance.h"
 
 #include <QObject>
 #include <QString>
@@ -58,6 +59,12 @@ public:
     void deleteLedger();
 
     // --- accounts and transactions ---
+    // The account dialog's OK: adds an account (editedRow -1) or writes the fields
+    // into the row being edited and renames that account's transactions from
+    // oldName, stores the accounts and recalculates. With checkUnique set, a name
+    // that any account already has, the edited one included, is refused. Returns
+    // the message for a refusal, and then nothing has changed; "" when done.
+    QString saveAccount(const AccountFields& fields, bool checkUnique, int editedRow, const QString& oldName);
     // A reconcile box of transBox was toggled: its row keeps the new state in the
     // reconciled column, and the table is stored.
     void transBox_CellAction(int row, int column);

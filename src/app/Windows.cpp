@@ -1,0 +1,100 @@
+#include "app/Windows.h"
+
+#include "app/App.h"
+#include "app/SplashWindow.h"
+#include "books/ui/PrefsWindow.h"
+#include "books/ui/newBookWindow.h"
+#include "engine/ui/AccountWindow.h"
+#include "mainwindow/SummaryWindow.h"
+#include "update/ui/AboutWindow.h"
+
+#include <QEvent>
+#include <QMenuBar>
+
+namespace {
+
+class CloseWatcher : public QObject {
+public:
+    CloseWatcher(QWidget* window, std::function<void()> forget)
+        : QObject(window)
+        , forget_(std::move(forget))
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Close && forget_)
+            std::exchange(forget_, nullptr)();
+        return false;
+    }
+
+private:
+    std::function<void()> forget_;
+};
+
+} // namespace
+
+void forgetOnClose(QWidget* window, std::function<void()> forget)
+{
+    new CloseWatcher(window, std::move(forget));
+}
+
+::SummaryWindow* Windows::SummaryWindow()
+{
+    static QPointer<::SummaryWindow> instance;
+    return accessWindow(instance, [] {
+        auto* window = new ::SummaryWindow(SummaryDialogs{
+            .AccountWindow = &Windows::AccountWindow,
+            .newBookWindow = &Windows::newBookWindow,
+        });
+        App::AddMenuHandlers(*window->menuBar());
+        return window;
+    });
+}
+
+::AccountWindow* Windows::AccountWindow()
+{
+    static QPointer<::AccountWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        return new ::AccountWindow(summary->books(), summary);
+    });
+}
+
+::newBookWindow* Windows::newBookWindow()
+{
+    static QPointer<::newBookWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        auto* dialog = new ::newBookWindow(summary->books(), summary);
+        QObject::connect(dialog, &::newBookWindow::ledgerAdded, summary, &::SummaryWindow::makeNewAccount);
+        return dialog;
+    });
+}
+
+::SplashWindow* Windows::SplashWindow()
+{
+    static QPointer<::SplashWindow> instance;
+    return accessWindow(instance, [] {
+        auto* splash = new ::SplashWindow();
+        QObject::connect(splash, &::SplashWindow::finished, splash, [] {
+            ::SummaryWindow* summary = Windows::SummaryWindow();
+            summary->setVisible(true);
+            summary->show();
+        });
+        return splash;
+    });
+}
+
+::AboutWindow* Windows::AboutWindow()
+{
+    static QPointer<::AboutWindow> instance;
+    return accessWindow(instance, [] { return new ::AboutWindow(); });
+}
+
+::PrefsWindow* Windows::PrefsWindow()
+{
+    static QPointer<::PrefsWindow> instance;
+    return accessWindow(instance, [] { return new ::PrefsWindow(); });
+}

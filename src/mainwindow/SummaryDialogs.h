@@ -1,0 +1,15 @@
+#pragma once
+
+#include <functional>
+
+class AccountWindow;
+class newBookWindow;
+
+// The dialogs the main window opens, each reached through the accessor of its
+// name: the one instance while it is open, a new one after it closed. The
+// application hands them in when it makes the main window, so the main window
+// never makes or wires another window itself.
+struct SummaryDialogs {
+    std::function<::AccountWindow*()> AccountWindow;
+    std::function<::newBookWindow*()> newBookWindow;
+};
