@@ -35,9 +35,16 @@ int ListboxModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : table_.ColumnCount();
 }
 
+bool ListboxModel::isCell(const QModelIndex& index) const
+{
+    // Views ask with an invalid index now and then, rightly; an index out of
+    // range is a fault, and checkIndex reports it.
+    return index.isValid() && checkIndex(index, CheckIndexOption::ParentIsInvalid);
+}
+
 QVariant ListboxModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!isCell(index))
         return {};
     const int row = index.row();
     const int column = index.column();
@@ -81,7 +88,7 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const
 
 bool ListboxModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!isCell(index))
         return false;
     const int row = index.row();
     const int column = index.column();
@@ -108,7 +115,7 @@ QVariant ListboxModel::headerData(int section, Qt::Orientation orientation, int 
 
 Qt::ItemFlags ListboxModel::flags(const QModelIndex& index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!isCell(index))
         return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     switch (table_.ColumnType(index.column())) {

@@ -29,6 +29,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
+    bool isCell(const QModelIndex& index) const;
     // Reports the gathered cell changes.
     void flushCellChanges();
 
