@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/QtPrinters.h"
+
 #include "platform/BlockingServices.h"
 #include "platform/Clock.h"
 

@@ -1,0 +1,125 @@
+// The account dialog's OK without the dialog: the refusals, adding and editing,
+// and what reaches the ledger's files.
+#include "engine/RowLayouts.h"
+#include "ledger/SummaryBooks.h"
+#include "support/DataFolder.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kNameInUse = u"That account name is already in use. Please enter a different name."_s;
+
+class AccountRulesTest : public ::testing::Test {
+protected:
+    AccountRulesTest() { books.LedgerList.SetListIndex(0); }
+
+    QString accountsPath() const { return home.books() + u"/  ShopAccountData"_s; }
+    QString transPath() const { return home.books() + u"/  ShopTransData"_s; }
+
+    // "  Shop" with the Base Account, a revenue and an expense account;
+    // "  Empty" without files. Written before the books read the list.
+    bool writeLedgers() const
+    {
+        home.makeFolders();
+        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n  Empty\n");
+        writeBytes(accountsPath(), "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"
+                                   "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n"
+                                   "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n");
+        writeBytes(transPath(), "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
+                                "@#@Rent@#@2026-01-04@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
+                                "@#@SALES@#@2026-01-05@#@till@#@@#@5@#@0@#@5@#@@#@@#@@#@Never@#@\n");
+        return true;
+    }
+
+    static AccountFields fields(const QString& name, const QString& type = u"Expense"_s, const QString& opening = {},
+                                const QString& notes = {})
+    {
+        return AccountFields{name, type, opening, notes};
+    }
+
+    QStringList column(const Listbox& table, int col) const
+    {
+        QStringList cells;
+        for (int row = 0; row < table.ListCount(); ++row)
+            cells << table.Cell(row, col);
+        return cells;
+    }
+
+    TempDataHome home;
+    ScriptedPlatform platform;
+    bool written = writeLedgers();
+    SummaryBooks books{home.books()};
+};
+
+} // namespace
+
+TEST_F(AccountRulesTest, ARefusedAccountChangesNothing)
+{
+    const QByteArray accounts = readBytes(accountsPath());
+    const QByteArray transactions = readBytes(transPath());
+    // Any row counts, the Base Account too, in any letter case; so does the
+    // edited row's own name when the name was typed at all.
+    EXPECT_EQ(books.saveAccount(fields(u"cash"_s), true, -1, {}), kNameInUse);
+    EXPECT_EQ(books.saveAccount(fields(u"RENT"_s), true, -1, {}), kNameInUse);
+    EXPECT_EQ(books.saveAccount(fields(u"rent"_s), true, 2, u"Rent"_s), kNameInUse);
+    // Text that would break a row of the files.
+    for (const AccountFields& breaking : {fields(u"Tips@#@Jar"_s), fields(u"Tips"_s, u"Expense"_s, u"1\n2"_s),
+                                          fields(u"Tips"_s, u"Expense"_s, {}, u"line\rbreak"_s)})
+        EXPECT_TRUE(books.saveAccount(breaking, true, -1, {}).startsWith(u"An account can't hold the text \"@#@\""));
+    EXPECT_FALSE(books.saveAccount(fields(u"Rent@#@"_s), false, 2, u"Rent"_s).isEmpty()) << "also with no name check";
+
+    EXPECT_EQ(books.accountsBox.ListCount(), 3);
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Sales"_s, u"Rent"_s}));
+    EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"Rent");
+    EXPECT_EQ(readBytes(accountsPath()), accounts);
+    EXPECT_EQ(readBytes(transPath()), transactions);
+    EXPECT_TRUE(platform.messages.isEmpty()) << "the caller shows the refusal";
+}
+
+TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
+{
+    EXPECT_EQ(books.saveAccount(fields(u"Tips"_s, u"Revenue"_s, {}, u"jar by the till"_s), true, -1, {}), u"");
+    EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Number), u"999");
+    EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Type), u"Revenue");
+    EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Opening), u"0.00") << "an empty opening";
+    EXPECT_EQ(books.accountsBox.rowPicture(3), RowPicture::accountPlus9);
+    EXPECT_TRUE(readBytes(accountsPath()).endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar by the till@#@\n"));
+
+    EXPECT_EQ(books.saveAccount(fields(u"Fuel"_s, u"Expense"_s, u"12.5"_s), true, -1, {}), u"");
+    EXPECT_EQ(books.accountsBox.rowPicture(4), RowPicture::accountMinus9);
+    EXPECT_TRUE(readBytes(accountsPath()).endsWith("999@#@Fuel@#@Expense@#@12.5@#@0@#@12.5@#@@#@\n"))
+        << "the opening as typed; the balance from the calculation";
+
+    // The first account of an empty ledger gets the book; the next one its type's.
+    books.LedgerList.SetListIndex(1);
+    ASSERT_EQ(books.accountsBox.ListCount(), 0);
+    EXPECT_EQ(books.saveAccount(fields(u"Balance"_s, u""_s, u"250"_s), true, -1, {}), u"");
+    EXPECT_EQ(books.saveAccount(fields(u"Wages"_s, u"Revenue"_s), true, -1, {}), u"");
+    EXPECT_EQ(books.accountsBox.rowPicture(0), RowPicture::BookIcon);
+    EXPECT_EQ(books.accountsBox.rowPicture(1), RowPicture::accountPlus9);
+    EXPECT_EQ(readBytes(home.books() + u"/  EmptyAccountData"_s),
+              QByteArray("999@#@Balance@#@@#@250.00@#@0@#@250@#@@#@\n999@#@Wages@#@Revenue@#@0.00@#@0@#@0@#@@#@\n"))
+        << "the opening as the screen pads it reaches the file with the next save";
+}
+
+TEST_F(AccountRulesTest, EditingRenamesTheTransactionsAndKeepsTheRowInPlace)
+{
+    EXPECT_EQ(books.saveAccount(fields(u"Takings"_s, u"Revenue"_s, {}, u"the till"_s), true, 1, u"Sales"_s), u"");
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Takings"_s, u"Rent"_s}));
+    EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Number), u"");
+    EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Opening), u"0.00") << "an empty opening after the calculation";
+    EXPECT_EQ(column(books.transBox, TransCol::Account), (QStringList{u"Takings"_s, u"Rent"_s, u"Takings"_s}))
+        << "its transactions in any letter case";
+    EXPECT_TRUE(readBytes(accountsPath()).contains("\n@#@Takings@#@Revenue@#@@#@15@#@15@#@the till@#@\n"));
+    EXPECT_EQ(readBytes(transPath()).count("@#@Takings@#@"), 2);
+
+    // An edit that leaves the name alone still gives the transactions its spelling.
+    EXPECT_EQ(books.saveAccount(fields(u"Rent"_s), false, 2, u"rent"_s), u"");
+    EXPECT_EQ(books.saveAccount(fields(u"RENT"_s), false, 2, u"Rent"_s), u"");
+    EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"RENT");
+    EXPECT_TRUE(readBytes(transPath()).contains("@#@RENT@#@2026-01-04@#@"));
+}
