@@ -19,6 +19,26 @@ bool breaksARow(QStringView text)
 
 } // namespace
 
+AccountFields baseAccountFields()
+{
+    return {u"Balance"_s, {}, {},
+            u"Enter your total available cash amount in the 'Amount' field. (eg. bank balance, balance forward, "
+            "annual operating budget, etc.) Enter '0' if an initial balance is not needed. "_s};
+}
+
+AccountFields accountFieldsOf(const Listbox& accounts, int row)
+{
+    AccountFields fields;
+    fields.name = accounts.Cell(row, AccountCol::Name);
+    if (row != 0) {
+        const bool revenue = isWord(accounts.CellView(row, AccountCol::Type), AccountType::Revenue);
+        fields.typeWord = (revenue ? AccountType::Revenue : AccountType::Expense).toString();
+    }
+    fields.opening = accounts.Cell(row, AccountCol::Opening);
+    fields.notes = accounts.Cell(row, AccountCol::Notes);
+    return fields;
+}
+
 bool checkName(const Listbox& accounts, QStringView name)
 {
     for (int row = 0; row < accounts.ListCount(); ++row) {

@@ -16,6 +16,16 @@ struct AccountFields {
     QString notes;
 };
 
+// What the dialog shows for the Base Account of a new ledger: the name
+// "Balance", no type, no amount, and a hint in the notes that is stored as they
+// are unless the user clears it.
+AccountFields baseAccountFields();
+
+// What the dialog shows when editing a row: its name, opening and notes, and
+// its type word as the dialog gives it back ("" for row 0, the Base Account;
+// "Revenue" for a revenue account; "Expense" for any other).
+AccountFields accountFieldsOf(const Listbox& accounts, int row);
+
 // True when any account row, the Base Account included, has this name.
 bool checkName(const Listbox& accounts, QStringView name);
 

@@ -106,3 +106,71 @@ TEST_F(CommandLineTest, AnUnknownLedgerWritesNothing)
     EXPECT_EQ(runCli(data() << u"frobnicate"_s).status, 2);
     EXPECT_EQ(runCli({u"--data"_s, home.path() + u"/nowhere"_s, u"list"_s}).out, u"");
 }
+
+TEST_F(CommandLineTest, AccountVerbsDoWhatTheAccountDialogDoes)
+{
+    // A new ledger in a data folder that has none yet gets its Base Account.
+    TempDataHome fresh;
+    CliRun run = runCli(QStringList{u"--data"_s, fresh.path()} << u"new-ledger"_s << u"Garden"_s << u"--notes"_s
+                                                               << u"@#@"_s);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_FALSE(QDir(fresh.quillmark()).exists()) << "a refused input makes no folder either";
+    run = runCli(QStringList{u"--data"_s, fresh.path()} << u"new-ledger"_s << u"Garden"_s << u"--opening"_s << u"250"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(readBytes(fresh.quillmark() + u"/BookList"_s), QByteArray("  Garden\n"));
+    EXPECT_EQ(readBytes(fresh.books() + u"/  GardenAccountData"_s),
+              QByteArray("999@#@Balance@#@@#@250@#@0@#@250@#@Enter your total available cash amount in the 'Amount' "
+                         "field. (eg. bank balance, balance forward, annual operating budget, etc.) Enter '0' if an "
+                         "initial balance is not needed. @#@\n"));
+
+    run = runCli(data() << u"add-account"_s << u"Shop"_s << u"Tips"_s << u"--revenue"_s << u"--notes"_s << u"jar"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar@#@\n"));
+
+    // A rename takes the transactions along in any letter case; the type stays.
+    run = runCli(data() << u"edit-account"_s << u"shop"_s << u"SALES"_s << u"--rename"_s << u"Takings"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("\n@#@Takings@#@Revenue@#@5,5@#@12.5@#@18@#@@#@\n"));
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).startsWith("@#@Takings@#@2014-03-09@#@Sale@#@"));
+
+    run = runCli(data() << u"delete-account"_s << u"Shop"_s << u"rent"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(runCli(data() << u"balances"_s << u"Shop"_s).out,
+              u"Balance\tBase Account\t112.5\nTakings\tRevenue\t18\nTips\tRevenue\t0\n");
+    EXPECT_FALSE(readBytes(book(u"  ShopTransData"_s)).contains("Rent"));
+}
+
+TEST_F(CommandLineTest, RefusedAccountInputsWriteNothing)
+{
+    auto files = [this] {
+        QMap<QString, QByteArray> all{{u"BookList"_s, readBytes(home.quillmark() + u"/BookList"_s)}};
+        for (const QString& name : QDir(home.books()).entryList(QDir::Files))
+            all.insert(name, readBytes(book(name)));
+        return all;
+    };
+    const QMap<QString, QByteArray> before = files();
+    const QList<std::pair<QStringList, QString>> refusals{
+        {{u"add-account"_s, u"Shop"_s, u"rENT"_s}, u"That account name is already in use."_s},
+        {{u"add-account"_s, u"Shop"_s, u"Tips@#@Jar"_s}, u"An account can't hold the text \"@#@\""_s},
+        {{u"edit-account"_s, u"Shop"_s, u"Rent"_s, u"--rename"_s, u"rent"_s}, u"already in use"_s},
+        {{u"edit-account"_s, u"Shop"_s, u"Rent"_s, u"--notes"_s, u"two\nlines"_s}, u"or a line break"_s},
+        {{u"edit-account"_s, u"Shop"_s, u"Fuel"_s}, u"there is no account named \"Fuel\""_s},
+        {{u"delete-account"_s, u"Shop"_s, u"balance"_s}, u"The Base Account cannot be deleted."_s},
+        {{u"delete-account"_s, u"Garden"_s, u"Rent"_s}, u"there is no ledger named \"Garden\""_s},
+        {{u"new-ledger"_s, u"shop"_s}, u"That ledger name is already in use."_s},
+        {{u"new-ledger"_s, u"Garden"_s, u"--notes"_s, u"a@#@b"_s}, u"An account can't hold"_s},
+    };
+    for (const auto& [arguments, message] : refusals) {
+        const CliRun run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, 1) << arguments.join(u' ').toStdString();
+        EXPECT_TRUE(run.err.startsWith(u"quillmark-cli: "_s) && run.err.contains(message))
+            << arguments.join(u' ').toStdString() << ": " << run.err.toStdString();
+        EXPECT_EQ(run.out, u"");
+    }
+    for (const QStringList& arguments : {QStringList{u"add-account"_s, u"Shop"_s, u"X"_s, u"--rename"_s, u"Y"_s},
+                                         QStringList{u"delete-account"_s, u"Shop"_s, u"Rent"_s, u"--revenue"_s},
+                                         QStringList{u"edit-account"_s, u"Shop"_s},
+                                         QStringList{u"new-ledger"_s, u"Garden"_s, u"--revenue"_s}})
+        EXPECT_EQ(runCli(data() << arguments).status, 2) << arguments.join(u' ').toStdString();
+    EXPECT_EQ(files(), before);
+}

@@ -94,10 +94,9 @@ void AccountWindow::hideAccountType()
 void AccountWindow::prepareBaseAccount()
 {
     nameChanged = true;
-    EditField4->setPlainText(
-        u"Enter your total available cash amount in the 'Amount' field. (eg. bank balance, balance forward, "
-        "annual operating budget, etc.) Enter '0' if an initial balance is not needed. "_s);
-    EditField1->setText(u"Balance"_s);
+    const AccountFields preset = baseAccountFields();
+    EditField4->setPlainText(preset.notes);
+    EditField1->setText(preset.name);
     EditField1->setCursorPosition(EditField1->text().size());
     hideAccountType();
     show();
@@ -106,23 +105,22 @@ void AccountWindow::prepareBaseAccount()
 
 void AccountWindow::editAccount(int row)
 {
-    const Listbox& accounts = books_.accountsBox;
     if (row == 0) {
         hideAccountType();
         Canvas2->hide();
     }
+    const AccountFields shown = accountFieldsOf(books_.accountsBox, row);
     editedRow_ = row;
-    oldName = accounts.Cell(row, AccountCol::Name);
+    oldName = shown.name;
     editingOn = true;
     windowOpening = true;
     EditField1->setText(oldName);
     // The type of an account never changes after it was made.
-    const bool revenue = isWord(accounts.CellView(row, AccountCol::Type), AccountType::Revenue);
-    (revenue ? RadioButton1 : RadioButton2)->setChecked(true);
+    (shown.typeWord == AccountType::Revenue ? RadioButton1 : RadioButton2)->setChecked(true);
     RadioButton1->setEnabled(false);
     RadioButton2->setEnabled(false);
-    EditField3->setText(accounts.Cell(row, AccountCol::Opening));
-    EditField4->setPlainText(accounts.Cell(row, AccountCol::Notes));
+    EditField3->setText(shown.opening);
+    EditField4->setPlainText(shown.notes);
     PushButton1->setEnabled(true);
     show();
     windowOpening = false;
