@@ -21,3 +21,14 @@ QString withLedgerPrefix(const QString& name);
 // long for a file name. Files are named after the ledger, so any of these would
 // lose or mix up a ledger's books.
 QString ledgerNameProblem(const QString& name, const Listbox& ledgerList, int ownRow);
+
+// The path of a file in the folder "Books" (a ledger's table file, "WindowData"),
+// made by this function alone, so that no name leads anywhere else: the file
+// name must be one name of its own, without "/", NUL or any other control
+// character, not "." or "..", and short enough to be saved (255 bytes with the
+// temporary name of a save). Otherwise the path is empty and the problem says why.
+struct BookFilePath {
+    QString path;
+    QString problem;
+};
+BookFilePath bookFilePath(const QString& booksFolder, const QString& fileName);

@@ -1,19 +1,9 @@
 #include "books/TextFiles.h"
 
-#include <QFile>
-#include <QSaveFile>
 #include <QStringDecoder>
 
-std::optional<QString> readTextFile(const QString& path)
+QString decodeText(const QByteArray& bytes)
 {
-    if (path.isEmpty())
-        return std::nullopt;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return std::nullopt;
     QStringDecoder decoder(QStringDecoder::Utf8);
     QString text = decoder.decode(bytes);
     if (decoder.hasError())
@@ -21,21 +11,17 @@ std::optional<QString> readTextFile(const QString& path)
     return text;
 }
 
-bool writeTextFile(const QString& path, QStringView text)
-{
-    return writeFileBytes(path, text.toUtf8());
-}
-
-bool writeFileBytes(const QString& path, const QByteArray& bytes)
+TextContent readTextFile(const QString& path)
 {
     if (path.isEmpty())
-        return false;
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    if (file.write(bytes) != bytes.size()) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
+        return {};
+    FileContent content = readPlainFile(path);
+    if (!content.bytes)
+        return {std::nullopt, content.problem};
+    return {decodeText(*content.bytes), {}};
+}
+
+FileProblem writeTextFile(const QString& path, QStringView text)
+{
+    return replaceFile(path, text.toUtf8());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "books/FileStore.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -7,16 +9,21 @@
 
 // Whole text files as the program keeps them: UTF-8, lines ending in "\n".
 
-// The decoded text of a file, or nothing when it doesn't exist or can't be read.
-// A file that isn't valid UTF-8 (an older file in a one-byte encoding) is read
-// byte by byte as Latin-1, so no byte is lost or replaced.
-std::optional<QString> readTextFile(const QString& path);
+// The text of bytes read from a file. Bytes that aren't valid UTF-8 (an older
+// file in a one-byte encoding) are read one by one as Latin-1, so no byte is
+// lost or replaced. A UTF-8 byte-order mark at the start is dropped.
+QString decodeText(const QByteArray& bytes);
 
-// Writes the text as the whole new content of the file. The old file is replaced
-// only once the new one is completely on disk; on any failure it stays as it was.
-bool writeTextFile(const QString& path, QStringView text);
-// The same for bytes already encoded.
-bool writeFileBytes(const QString& path, const QByteArray& bytes);
+// The decoded text of a plain file; no text and no problem when there is no
+// file; no text and the problem when it can't be read.
+struct TextContent {
+    std::optional<QString> text;
+    QString problem;
+};
+TextContent readTextFile(const QString& path);
+
+// Writes the text as the whole new content of the file (see FileReplacement).
+FileProblem writeTextFile(const QString& path, QStringView text);
 
 // Calls f for each line of text, without its line end. "\n", "\r\n" and a lone "\r"
 // all end a line, so files from other systems read alike. A final line end

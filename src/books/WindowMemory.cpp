@@ -1,10 +1,22 @@
 #include "books/WindowMemory.h"
 
 #include "books/AppFolders.h"
+#include "books/LedgerNames.h"
 #include "books/TextFiles.h"
+#include "platform/FileProblems.h"
 #include "platform/Numbers.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+void tellIfFailed(const FileProblem& problem)
+{
+    if (problem.failed())
+        tellFileProblem(u"Quillmark couldn't save the places of its windows: %1."_s.arg(problem.reason));
+}
+
+} // namespace
 
 namespace smartWindowsGlobals {
 
@@ -59,7 +71,7 @@ void saveWindowSpecs()
         text += entry.theName + u';' + Str(entry.theLeft) + u';' + Str(entry.theTop) + u';'
             + Str(entry.theWidth) + u';' + Str(entry.theHeight) + u'\n';
     }
-    writeTextFile(folder + u"/Quillmark_WindowData"_s, text);
+    tellIfFailed(writeTextFile(folder + u"/Quillmark_WindowData"_s, text));
 }
 
 } // namespace smartWindowsGlobals
@@ -70,5 +82,5 @@ void writeWindowData(const QString& folder, const QRect& geometry)
         return;
     const QString text = Str(geometry.top()) + u'\n' + Str(geometry.left()) + u'\n' + Str(geometry.width())
         + u'\n' + Str(geometry.height()) + u'\n';
-    writeTextFile(folder + u"/WindowData"_s, text);
+    tellIfFailed(writeTextFile(bookFilePath(folder, u"WindowData"_s).path, text));
 }

@@ -1,9 +1,8 @@
 #include "books/prefsDictionary.h"
 
 #include "books/AppFolders.h"
-#include "books/TextFiles.h"
-
-#include <QFile>
+#include "books/FileStore.h"
+#include "platform/FileProblems.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,9 +41,12 @@ QHash<QString, QString>& prefsDict()
 void getPreferences()
 {
     prefsDict() = {};
-    QFile file(preferencesPath());
-    if (file.exists() && file.open(QIODevice::ReadOnly)) {
-        const QByteArray bytes = file.readAll();
+    const QString path = preferencesPath();
+    const FileContent content = path.isEmpty() ? FileContent{} : readPlainFile(path);
+    if (!content.problem.isEmpty())
+        tellFileProblem(u"Quillmark couldn't read its preferences: %1."_s.arg(content.problem));
+    if (content.bytes) {
+        const QByteArray& bytes = *content.bytes;
         const int length = bytes.isEmpty() ? 0 : quint8(bytes[0]);
         prefsDict().insert(kAccountNumber, QString::fromUtf8(bytes.mid(1, length)));
         return;
@@ -54,7 +56,13 @@ void getPreferences()
 
 void savePreferences()
 {
-    writeFileBytes(preferencesPath(), countedString(prefsDict().value(kAccountNumber)));
+    const QString path = preferencesPath();
+    if (path.isEmpty())
+        return;
+    const FileProblem problem = replaceFile(path, countedString(prefsDict().value(kAccountNumber)));
+    if (problem.failed())
+        tellFileProblem(u"Quillmark couldn't save its preferences: %1.%2"_s.arg(
+            problem.reason, problem.oldFileKept ? u" They stay as they were before."_s : QString()));
 }
 
 } // namespace prefsDictionary

@@ -6,6 +6,7 @@
 #include "engine/BalanceCalculation.h"
 #include "engine/RowLayouts.h"
 #include "platform/BlockingServices.h"
+#include "platform/FileProblems.h"
 #include "platform/Numbers.h"
 #include "platform/TextHelpers.h"
 
@@ -14,6 +15,24 @@
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kAccountData = u"AccountData"_s;
+const QString kTransData = u"TransData"_s;
+
+// A ledger as the user reads its name, without the two blanks.
+QString shownName(const QString& ledger)
+{
+    return ledger.startsWith(kLedgerPrefix) ? ledger.mid(kLedgerPrefix.size()) : ledger;
+}
+
+QString keptNote(const FileProblem& problem)
+{
+    return problem.oldFileKept ? u" It stays as it was before this change."_s : QString();
+}
+
+} // namespace
 
 SummaryBooks::SummaryBooks(const QString& programDataFolder, QObject* parent)
     : QObject(parent)
@@ -44,8 +63,12 @@ QString SummaryBooks::bookListPath() const
 
 void SummaryBooks::LedgerList_Open()
 {
-    if (const std::optional<QString> content = readTextFile(bookListPath())) {
-        forEachLine(*content, [this](QStringView line) {
+    const TextContent content = readTextFile(bookListPath());
+    if (!content.problem.isEmpty())
+        tellFileProblem(u"Quillmark couldn't read the list of ledgers: %1."_s.arg(content.problem));
+    if (content.text) {
+        // A line that can't name files still lists: opening it says why.
+        forEachLine(*content.text, [this](QStringView line) {
             if (line.isEmpty())
                 return;
             LedgerList.AddRow(withLedgerPrefix(line.toString()));
@@ -57,18 +80,19 @@ void SummaryBooks::LedgerList_Open()
 
 void SummaryBooks::LedgerList_Change()
 {
+    const FileProblemGathering oneMessage;
     Q_EMIT searchFieldCleared();
 
     // Put the transactions of the ledger left back as its file has them, and store them.
     if (!delLedger && !deletingOn) {
-        listboxManager.loadListBox(transBox, transFileName());
+        loadTable(transBox, theLedger, kTransData);
         if (transBox.ListCount() > 0)
-            listboxManager.saveListBox(transBox, transFileName());
+            saveTable(transBox, theLedger, kTransData);
     }
     if (!theLedger.isEmpty()) {
         oldLedger = theLedger;
         if (!deletingOn && accountsBox.ListCount() > 0)
-            listboxManager.saveListBox(accountsBox, accountsFileName());
+            saveTable(accountsBox, theLedger, kAccountData);
     }
 
     if (LedgerList.ListIndex() > -1) {
@@ -119,6 +143,7 @@ void SummaryBooks::LedgerList_CellTextChange(int, int)
 
 void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
 {
+    const FileProblemGathering oneMessage;
     theLedger = withLedgerPrefix(theLedger);
     QString problem = ledgerNameProblem(theLedger, LedgerList, row);
     // Saving under a name whose files exist would overwrite another ledger's books.
@@ -137,9 +162,9 @@ void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
 
     LedgerList.SetCell(row, column, theLedger);
     if (transBox.ListCount() > 0)
-        listboxManager.saveListBox(transBox, transFileName());
+        saveTable(transBox, theLedger, kTransData);
     if (accountsBox.ListCount() > 0)
-        listboxManager.saveListBox(accountsBox, accountsFileName());
+        saveTable(accountsBox, theLedger, kAccountData);
     saveBooks();
     // A change of case only names the same files on a system that ignores case:
     // removing "the old ones" there would remove the ledger itself.
@@ -149,42 +174,58 @@ void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
 
 void SummaryBooks::openABook(const QString&)
 {
+    const FileProblemGathering oneMessage;
     // The selected row names the files; the caller's name is always its text.
     if (LedgerList.ListIndex() == -1)
         return;
     accountsBox.DeleteAllRows();
     transBox.DeleteAllRows();
     const QString name = LedgerList.Text();
-    listboxManager.loadListBox(accountsBox, name + u"AccountData"_s);
-    listboxManager.loadListBox(transBox, name + u"TransData"_s);
+    loadTable(accountsBox, name, kAccountData);
+    loadTable(transBox, name, kTransData);
 }
 
 void SummaryBooks::saveBooks()
 {
     const QString path = bookListPath();
-    if (path.isEmpty())
-        return;
     QString content;
     for (int row = 0; row < LedgerList.ListCount(); ++row) {
         content += LedgerList.CellView(row, 0);
         content += u'\n';
     }
-    writeTextFile(path, content);
+    const FileProblem problem = path.isEmpty() ? FileProblem{u"there is no folder to keep it in"_s}
+                                               : writeTextFile(path, content);
+    if (problem.failed())
+        tellFileProblem(u"Quillmark couldn't save the list of ledgers: %1.%2"_s.arg(problem.reason, keptNote(problem)));
+}
+
+void SummaryBooks::saveTable(const Listbox& table, const QString& ledger, const QString& kind)
+{
+    const FileProblem problem = listboxManager.saveListBox(table, ledger + kind);
+    if (problem.failed())
+        tellFileProblem(u"Quillmark couldn't save the ledger \"%1\": %2.%3"_s.arg(shownName(ledger), problem.reason,
+                                                                                 keptNote(problem)));
+}
+
+void SummaryBooks::loadTable(Listbox& table, const QString& ledger, const QString& kind)
+{
+    const FileProblem problem = listboxManager.loadListBox(table, ledger + kind);
+    if (problem.failed())
+        tellFileProblem(u"Quillmark couldn't open the ledger \"%1\": %2."_s.arg(shownName(ledger), problem.reason));
 }
 
 void SummaryBooks::removeFiles(const QString& name)
 {
-    if (listboxManager.ProgramDataFolder.isEmpty())
-        return;
-    QDir folder(listboxManager.ProgramDataFolder);
-    for (const QString& fileName : {name + u"AccountData"_s, name + u"TransData"_s}) {
-        if (folder.exists(fileName))
-            folder.remove(fileName);
+    for (const QString& fileName : {name + kAccountData, name + kTransData}) {
+        const QString path = bookFilePath(listboxManager.ProgramDataFolder, fileName).path;
+        if (!path.isEmpty())
+            QFile::remove(path); // a link goes itself, not what it points to
     }
 }
 
 bool SummaryBooks::addLedger(const QString& typedName)
 {
+    const FileProblemGathering oneMessage;
     const QString name = kLedgerPrefix + typedName;
     if (const QString problem = ledgerNameProblem(name, LedgerList, -1); !problem.isEmpty()) {
         MsgBox(problem);
@@ -200,6 +241,7 @@ bool SummaryBooks::addLedger(const QString& typedName)
 
 void SummaryBooks::deleteLedger()
 {
+    const FileProblemGathering oneMessage;
     if (LedgerList.ListIndex() == -1)
         return;
     if (!confirmDeletion(u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?"_s))
@@ -218,6 +260,7 @@ void SummaryBooks::deleteLedger()
 
 QString SummaryBooks::saveAccount(const AccountFields& fields, bool checkUnique, int editedRow, const QString& oldName)
 {
+    const FileProblemGathering oneMessage;
     if (checkUnique && checkName(accountsBox, fields.name))
         return u"That account name is already in use. Please enter a different name."_s;
     if (const QString problem = accountFieldsProblem(fields); !problem.isEmpty())
@@ -228,31 +271,34 @@ QString SummaryBooks::saveAccount(const AccountFields& fields, bool checkUnique,
         editAccountRow(accountsBox, editedRow, fields);
         updateAccountIDName(transBox, oldName, fields.name);
     }
-    listboxManager.saveListBox(accountsBox, accountsFileName());
+    saveTable(accountsBox, theLedger, kAccountData);
     calcAll();
     return {};
 }
 
 void SummaryBooks::transBox_CellAction(int row, int column)
 {
+    const FileProblemGathering oneMessage;
     transBox.SetCell(row, TransCol::Reconciled, transBox.CellCheck(row, column) ? u"true" : u"false");
     if (reconcileOn_)
         calcAll();
-    listboxManager.saveListBox(transBox, transFileName());
+    saveTable(transBox, theLedger, kTransData);
 }
 
 bool SummaryBooks::accountsBox_DragReorderRows(int newPosition, int /*parentRow*/)
 {
+    const FileProblemGathering oneMessage;
     if (newPosition == 0) {
         Beep();
         return true;
     }
-    listboxManager.saveListBox(accountsBox, accountsFileName());
+    saveTable(accountsBox, theLedger, kAccountData);
     return false;
 }
 
 void SummaryBooks::deleteSelectedAccount()
 {
+    const FileProblemGathering oneMessage;
     const int row = accountsBox.ListIndex();
     if (row < 0) {
         MsgBox(u"No account selected."_s);
@@ -271,7 +317,7 @@ void SummaryBooks::deleteSelectedAccount()
         return;
     deleteAccountWithTransactions(accountsBox, transBox, row);
     if (LedgerList.ListIndex() > -1)
-        listboxManager.saveListBox(accountsBox, accountsFileName());
+        saveTable(accountsBox, theLedger, kAccountData);
     calcAll();
 }
 
@@ -285,6 +331,7 @@ QStringList SummaryBooks::transBox_ContextualMenuItems() const
 
 void SummaryBooks::transBox_ContextualMenuAction(const QString& itemText)
 {
+    const FileProblemGathering oneMessage;
     const int row = transBox.ListIndex();
     transBox.SetCell(row, TransCol::Number, NthField(itemText, u"-", 1));
     transBox.SetCell(row, TransCol::Account, NthField(itemText, u"-", 2));
@@ -293,9 +340,10 @@ void SummaryBooks::transBox_ContextualMenuAction(const QString& itemText)
 
 void SummaryBooks::saveOpenLedger()
 {
+    const FileProblemGathering oneMessage;
     if (LedgerList.ListIndex() > -1) {
-        listboxManager.saveListBox(transBox, transFileName());
-        listboxManager.saveListBox(accountsBox, accountsFileName());
+        saveTable(transBox, theLedger, kTransData);
+        saveTable(accountsBox, theLedger, kAccountData);
     }
 }
 
@@ -311,6 +359,7 @@ QString SummaryBooks::separatorTypeOf(QStringView probe)
 
 void SummaryBooks::calcAll()
 {
+    const FileProblemGathering oneMessage;
     if (LedgerList.ListIndex() == -1)
         return;
     const BalanceTotals totals = calculateBalances(accountsBox, transBox, reconcileOn_);
@@ -321,8 +370,8 @@ void SummaryBooks::calcAll()
 
     // The files get the plain sums; the padding and the comma are for the screen.
     if (LedgerList.ListIndex() != -1) {
-        listboxManager.saveListBox(accountsBox, accountsFileName());
-        listboxManager.saveListBox(transBox, transFileName());
+        saveTable(accountsBox, theLedger, kAccountData);
+        saveTable(transBox, theLedger, kTransData);
     }
     padAmounts(accountsBox, transBox);
     if (separatorType == u"comma")
@@ -344,6 +393,7 @@ void SummaryBooks::CheckRepeats()
 
 void SummaryBooks::reconcilecheckbox_Action(bool checked)
 {
+    const FileProblemGathering oneMessage;
     reconcileOn_ = checked;
     if (!checked && accountsBox.ListCount() > 0)
         calcAll();

@@ -48,6 +48,9 @@ public:
     void openABook(const QString& name);
     // Writes the ledger list to "BookList".
     void saveBooks();
+    // Whatever fails in the operations below is told to the user, one message
+    // an operation, naming the ledger and the system's reason; a file that
+    // couldn't be saved stays as it was.
     // Deletes the files of a ledger.
     void removeFiles(const QString& name);
 
@@ -109,5 +112,10 @@ Q_SIGNALS:
     void importAvailable(bool available);
 
 private:
+    // Store and load one table of a ledger ("AccountData", "TransData"); what
+    // fails is told to the user, naming the ledger.
+    void saveTable(const Listbox& table, const QString& ledger, const QString& kind);
+    void loadTable(Listbox& table, const QString& ledger, const QString& kind);
+
     bool reconcileOn_ = false;
 };

@@ -9,6 +9,7 @@
 #include "mainwindow/SummaryColours.h"
 #include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
+#include "platform/FileProblems.h"
 #include "widgets/AutoButton.h"
 #include "widgets/Canvas.h"
 #include "widgets/WindowSplitter.h"
@@ -330,5 +331,14 @@ void SummaryWindow::Close()
 {
     books_.saveOpenLedger();
     saveWindowData();
+}
+
+void SummaryWindow::closeEvent(QCloseEvent* event)
+{
+    {
+        // What couldn't be stored on the way out is told once, before the end.
+        const FileProblemGathering oneMessage;
+        smartWindow::closeEvent(event);
+    }
     Quit();
 }

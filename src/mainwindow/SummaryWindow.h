@@ -96,6 +96,7 @@ public:
 protected:
     void Open() override;
     void Close() override;
+    void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -1,11 +1,10 @@
 #include "books/rowtable/ListboxManager.h"
 
-#include "books/rowtable/Listbox.h"
+#include "books/LedgerNames.h"
 #include "books/TextFiles.h"
 #include "platform/Dates.h"
 #include "platform/TextHelpers.h"
 
-#include <QSaveFile>
 #include <QStringEncoder>
 
 using namespace Qt::StringLiterals;
@@ -42,23 +41,16 @@ RowPicture accountPicture(const Listbox::Row& row, bool first)
 
 } // namespace
 
-QString ListboxManager::pathOf(const QString& fileName) const
-{
-    return ProgramDataFolder.isEmpty() ? QString() : ProgramDataFolder + u'/' + fileName;
-}
-
-void ListboxManager::saveListBox(const Listbox& table, const QString& fileName) const
+FileProblem ListboxManager::saveListBox(const Listbox& table, const QString& fileName) const
 {
     if (deletingOn)
-        return;
-    const QString path = pathOf(fileName);
-    if (path.isEmpty())
-        return;
+        return {};
+    const BookFilePath target = bookFilePath(ProgramDataFolder, fileName);
+    if (target.path.isEmpty())
+        return {target.problem};
     // Encoded a piece at a time into one buffer that stays in the cache, and
-    // put in place only once all of it is written.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
+    // put in place only once all of it is written and synced.
+    FileReplacement file(target.path);
     constexpr qsizetype kChunk = 256 * 1024;
     QStringEncoder encoder(QStringEncoder::Utf8);
     QByteArray buffer(kChunk, Qt::Uninitialized);
@@ -67,8 +59,8 @@ void ListboxManager::saveListBox(const Listbox& table, const QString& fileName) 
         const QStringView line = table.storedLine(row);
         const qsizetype needed = encoder.requiredSpace(line.size()) + 1;
         if (out - buffer.data() + needed > buffer.size()) {
-            if (file.write(buffer.constData(), out - buffer.data()) < 0)
-                return; // the old file stays
+            if (!file.write(buffer.constData(), out - buffer.data()))
+                break; // the old file stays
             if (needed > buffer.size())
                 buffer.resize(needed);
             out = buffer.data();
@@ -76,31 +68,34 @@ void ListboxManager::saveListBox(const Listbox& table, const QString& fileName) 
         out = encoder.appendToBuffer(out, line);
         *out++ = '\n';
     }
-    if (file.write(buffer.constData(), out - buffer.data()) < 0)
-        return;
-    file.commit();
+    file.write(buffer.constData(), out - buffer.data());
+    return file.commit();
 }
 
-void ListboxManager::loadListBox(Listbox& table, const QString& fileName) const
+FileProblem ListboxManager::loadListBox(Listbox& table, const QString& fileName) const
 {
-    const QString path = pathOf(fileName);
-    if (path.isEmpty())
-        return;
-    const std::optional<QString> content = readTextFile(path);
-    if (!content)
-        return;
+    const BookFilePath source = bookFilePath(ProgramDataFolder, fileName);
+    if (source.path.isEmpty())
+        return {ProgramDataFolder.isEmpty() ? QString() : source.problem}; // no folder: nothing to read
+    const TextContent content = readTextFile(source.path);
+    if (!content.text)
+        return {content.problem};
+    table.replaceAllRows(rowsOfText(*content.text, table.ColumnCount(), InStr(fileName, u"AccountData") > 0));
+    convertToSQLdate(table);
+    return {};
+}
 
-    const bool accountData = InStr(fileName, u"AccountData") > 0;
+std::vector<Listbox::Row> ListboxManager::rowsOfText(QStringView text, int columnCount, bool accountData)
+{
     std::vector<Listbox::Row> rows;
-    forEachLine(*content, [&](QStringView line) {
+    forEachLine(text, [&](QStringView line) {
         if (line.isEmpty())
             return;
-        rows.push_back(rowFromLine(line, table.ColumnCount()));
+        rows.push_back(rowFromLine(line, columnCount));
         if (accountData)
             rows.back().setPicture(accountPicture(rows.back(), rows.size() == 1));
     });
-    table.replaceAllRows(std::move(rows));
-    convertToSQLdate(table);
+    return rows;
 }
 
 void ListboxManager::convertToSQLdate(Listbox& table)

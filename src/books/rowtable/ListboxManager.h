@@ -1,8 +1,11 @@
 #pragma once
 
+#include "books/FileStore.h"
+#include "books/rowtable/Listbox.h"
+
 #include <QString>
 
-class Listbox;
+#include <vector>
 
 // Saves a row table to its file in the ledger folder and loads it back.
 //
@@ -17,18 +20,20 @@ public:
     bool deletingOn = false;
 
     // Rewrites the file from the table. The old file is replaced in one step, so a
-    // failed save leaves it as it was. Nothing is reported.
-    void saveListBox(const Listbox& table, const QString& fileName) const;
-    // Fills the table from the file. A file that is missing or can't be read
-    // leaves the table as it was. Blank lines are skipped, column 0 of every row
-    // starts empty, missing cells read "", fields beyond the last column are ignored.
-    // Rows of an "AccountData" file get their account pictures; the dates of
-    // transBox are rewritten to year-month-day.
-    void loadListBox(Listbox& table, const QString& fileName) const;
+    // failed save leaves it as it was; the problem says why it failed. A file name
+    // that isn't a plain name of the folder is never written (bookFilePath).
+    FileProblem saveListBox(const Listbox& table, const QString& fileName) const;
+    // Fills the table from the file. A file that is missing leaves the table as it
+    // was; so does one that can't be read, and the problem says why. Blank lines
+    // are skipped, column 0 of every row starts empty, missing cells read "",
+    // fields beyond the last column are ignored. Rows of an "AccountData" file get
+    // their account pictures; the dates of transBox are rewritten to year-month-day.
+    FileProblem loadListBox(Listbox& table, const QString& fileName) const;
+    // The rows of a table file's text, as loadListBox puts them in a table of
+    // that many columns.
+    static std::vector<Listbox::Row> rowsOfText(QStringView text, int columnCount, bool accountData);
     // Rewrites every date of transBox in column 2 that ParseDate reads into its
     // SQLDate form; other texts stay. Does nothing to any other table.
     static void convertToSQLdate(Listbox& table);
 
-private:
-    QString pathOf(const QString& fileName) const;
 };
