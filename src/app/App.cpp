@@ -21,6 +21,7 @@ void App::Event_Open()
     prefsDictionary::getPreferences();
     StartupGlobals::AppStoreVersion = false;
     const QString books = AppFolders::makeFolders(AppFolders::applicationData());
+    AppFolders::removeSaveLeftovers(AppFolders::applicationData());
     if (!books.isEmpty())
         AppFolders::renameOldLedgerFiles(books);
     Windows::SplashWindow()->show();

@@ -1,5 +1,6 @@
 #include "books/AppFolders.h"
 
+#include "books/FileStore.h"
 #include "platform/TextHelpers.h"
 
 #include <QDir>
@@ -38,6 +39,19 @@ QString makeFolders(const QString& applicationData)
     QDir().mkdir(quillmark(applicationData));
     QDir().mkdir(books(applicationData));
     return existingBooks(applicationData);
+}
+
+void removeSaveLeftovers(const QString& applicationData)
+{
+    if (applicationData.isEmpty())
+        return;
+    ::removeSaveLeftovers(books(applicationData), [](QStringView name) {
+        return name.endsWith(u"AccountData") || name.endsWith(u"TransData") || name == u"WindowData";
+    });
+    ::removeSaveLeftovers(quillmark(applicationData), [](QStringView name) { return name == u"BookList"; });
+    ::removeSaveLeftovers(applicationData, [](QStringView name) {
+        return name == u"Quillmark Preferences" || name == u"Quillmark_WindowData";
+    });
 }
 
 void renameOldLedgerFiles(const QString& booksFolder)

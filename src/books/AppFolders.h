@@ -19,6 +19,11 @@ QString existingBooks(const QString& applicationData);
 // path of "Books", or "" when it isn't there after all. Failures are not reported.
 QString makeFolders(const QString& applicationData);
 
+// Removes what saves killed on the way left of the program's files: of the
+// ledgers' files and "WindowData" in "Books", of "BookList", and of
+// "Quillmark Preferences" and "Quillmark_WindowData".
+void removeSaveLeftovers(const QString& applicationData);
+
 // Puts two blanks in front of every ledger file name in the folder that lacks them:
 // older versions named a ledger's files without its two leading blanks. An item
 // whose new name is taken keeps its old one.

@@ -16,6 +16,13 @@ QString preferencesPath()
     return folder.isEmpty() ? QString() : folder + u"/Quillmark Preferences"_s;
 }
 
+// The file was there at start but couldn't be read: it isn't written over.
+bool& preferencesUnread()
+{
+    static bool unread = false;
+    return unread;
+}
+
 QByteArray countedString(const QString& value)
 {
     QByteArray bytes = value.toUtf8();
@@ -43,7 +50,8 @@ void getPreferences()
     prefsDict() = {};
     const QString path = preferencesPath();
     const FileContent content = path.isEmpty() ? FileContent{} : readPlainFile(path);
-    if (!content.problem.isEmpty())
+    preferencesUnread() = !content.problem.isEmpty();
+    if (preferencesUnread())
         tellFileProblem(u"Quillmark couldn't read its preferences: %1."_s.arg(content.problem));
     if (content.bytes) {
         const QByteArray& bytes = *content.bytes;
@@ -59,7 +67,9 @@ void savePreferences()
     const QString path = preferencesPath();
     if (path.isEmpty())
         return;
-    const FileProblem problem = replaceFile(path, countedString(prefsDict().value(kAccountNumber)));
+    const FileProblem problem = preferencesUnread()
+        ? FileProblem{u"the file couldn't be read when Quillmark started, so it isn't written over"_s}
+        : replaceFile(path, countedString(prefsDict().value(kAccountNumber)));
     if (problem.failed())
         tellFileProblem(u"Quillmark couldn't save its preferences: %1.%2"_s.arg(
             problem.reason, problem.oldFileKept ? u" They stay as they were before."_s : QString()));

@@ -46,8 +46,9 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] COMMAND\n"
                       "\n"
                       "NAME is the ledger's name with or without its two leading blanks; case doesn't matter,\n"
                       "nor for ACCOUNT. An unknown ledger or account, or an input the window would refuse, is\n"
-                      "reported on stderr with exit status 1, and nothing is written. A wrong command or\n"
-                      "option gives this text on stderr with exit status 2.\n"
+                      "reported on stderr with exit status 1, and nothing is written. So is a file that can't\n"
+                      "be read or saved, with the system's reason; a file that couldn't be saved stays as it\n"
+                      "was. A wrong command or option gives this text on stderr with exit status 2.\n"
                       "\n"
                       "Options:\n"
                       "  --data DIR     Use DIR as the application data folder (the folder that holds\n"
@@ -136,7 +137,9 @@ int refused(QTextStream& err, const QString& problem)
 
 } // namespace
 
-int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& err)
+namespace {
+
+int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err, const CommandLineServices& services)
 {
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -188,7 +191,6 @@ int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& 
         return refused(err, u"the folder %1 can't be made"_s.arg(AppFolders::books(dataFolder)));
     SummaryBooks books(booksFolder);
     books.probeSeparator();
-    CommandLineServices services;
 
     if (command == u"list") {
         for (int row = 0; row < books.LedgerList.ListCount(); ++row)
@@ -198,7 +200,7 @@ int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& 
 
     if (adding) {
         if (!books.addLedger(words[1]))
-            return refused(err, services.shown.value(0));
+            return 1; // its message is told with the others
         // A ledger whose files were left behind opens with accounts; one is
         // recalculated, the other gets its Base Account.
         const bool hasAccounts = books.accountsBox.ListCount() > 0;
@@ -254,9 +256,22 @@ int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& 
             return refused(err, problem);
         return 0;
     }
-    // delete-account
+    // delete-account: a refusal is a message
     books.deleteSelectedAccount();
-    if (!services.shown.isEmpty())
-        return refused(err, services.shown.first());
-    return 0;
+    return services.shown.isEmpty() ? 0 : 1;
+}
+
+} // namespace
+
+int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& err)
+{
+    const CommandLineServices services;
+    int status = runVerb(arguments, out, err, services);
+    // What the windows would show (a refusal, a file that couldn't be read or
+    // saved) goes to stderr, and the command has failed.
+    for (const QString& message : services.shown)
+        err << "quillmark-cli: " << QString(message).replace(u"\n\n"_s, u"\nquillmark-cli: "_s) << '\n';
+    if (status == 0 && !services.shown.isEmpty())
+        status = 1;
+    return status;
 }

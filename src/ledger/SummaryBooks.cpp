@@ -64,7 +64,8 @@ QString SummaryBooks::bookListPath() const
 void SummaryBooks::LedgerList_Open()
 {
     const TextContent content = readTextFile(bookListPath());
-    if (!content.problem.isEmpty())
+    bookListUnread_ = !content.problem.isEmpty();
+    if (bookListUnread_)
         tellFileProblem(u"Quillmark couldn't read the list of ledgers: %1."_s.arg(content.problem));
     if (content.text) {
         // A line that can't name files still lists: opening it says why.
@@ -104,6 +105,7 @@ void SummaryBooks::LedgerList_Change()
         Q_EMIT importAvailable(false);
         accountsBox.DeleteAllRows();
         transBox.DeleteAllRows();
+        unreadFiles_.clear();
         theLedger.clear();
     }
 
@@ -153,6 +155,10 @@ void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
         if (folder.exists(accountsFileName()) || folder.exists(transFileName()))
             problem = ledgerNameInUseMessage();
     }
+    // The files of the old name go once the new ones are written; a file that
+    // couldn't be read would go without its content having been written anew.
+    if (problem.isEmpty() && renamed && !unreadFiles_.isEmpty())
+        problem = u"The ledger can't be renamed: its files couldn't be read when it was opened."_s;
     if (!problem.isEmpty()) {
         MsgBox(problem);
         theLedger = oldLedger;
@@ -161,15 +167,27 @@ void SummaryBooks::LedgerList_CellLostFocus(int row, int column)
     }
 
     LedgerList.SetCell(row, column, theLedger);
+    bool saved = true;
     if (transBox.ListCount() > 0)
-        saveTable(transBox, theLedger, kTransData);
+        saved = saveTable(transBox, theLedger, kTransData) && saved;
     if (accountsBox.ListCount() > 0)
-        saveTable(accountsBox, theLedger, kAccountData);
-    saveBooks();
+        saved = saveTable(accountsBox, theLedger, kAccountData) && saved;
+    const bool listSaved = saveBooks();
     // A change of case only names the same files on a system that ignores case:
     // removing "the old ones" there would remove the ledger itself.
-    if (renamed)
+    if (!renamed)
+        return;
+    if (saved && listSaved) {
         removeFiles(oldLedger);
+        return;
+    }
+    // Not all of it reached the disk under the new name: the ledger keeps its
+    // old name and files, and what was written under the new one goes.
+    removeFiles(theLedger);
+    theLedger = oldLedger;
+    LedgerList.SetCell(row, column, oldLedger);
+    if (listSaved)
+        saveBooks();
 }
 
 void SummaryBooks::openABook(const QString&)
@@ -180,12 +198,13 @@ void SummaryBooks::openABook(const QString&)
         return;
     accountsBox.DeleteAllRows();
     transBox.DeleteAllRows();
+    unreadFiles_.clear();
     const QString name = LedgerList.Text();
     loadTable(accountsBox, name, kAccountData);
     loadTable(transBox, name, kTransData);
 }
 
-void SummaryBooks::saveBooks()
+bool SummaryBooks::saveBooks()
 {
     const QString path = bookListPath();
     QString content;
@@ -193,23 +212,36 @@ void SummaryBooks::saveBooks()
         content += LedgerList.CellView(row, 0);
         content += u'\n';
     }
-    const FileProblem problem = path.isEmpty() ? FileProblem{u"there is no folder to keep it in"_s}
-                                               : writeTextFile(path, content);
+    FileProblem problem;
+    if (path.isEmpty())
+        problem = {u"there is no folder to keep it in"_s};
+    else if (bookListUnread_)
+        problem = {u"the file couldn't be read when Quillmark started, so it isn't written over"_s};
+    else
+        problem = writeTextFile(path, content);
     if (problem.failed())
         tellFileProblem(u"Quillmark couldn't save the list of ledgers: %1.%2"_s.arg(problem.reason, keptNote(problem)));
+    return !problem.failed();
 }
 
-void SummaryBooks::saveTable(const Listbox& table, const QString& ledger, const QString& kind)
+bool SummaryBooks::saveTable(const Listbox& table, const QString& ledger, const QString& kind)
 {
-    const FileProblem problem = listboxManager.saveListBox(table, ledger + kind);
+    // The table of a file that couldn't be read holds nothing of it: saving it
+    // would put an empty table in place of the user's books.
+    const FileProblem problem = unreadFiles_.contains(kind)
+        ? FileProblem{u"its file couldn't be read when the ledger was opened, so it isn't written over"_s}
+        : listboxManager.saveListBox(table, ledger + kind);
     if (problem.failed())
         tellFileProblem(u"Quillmark couldn't save the ledger \"%1\": %2.%3"_s.arg(shownName(ledger), problem.reason,
                                                                                  keptNote(problem)));
+    return !problem.failed();
 }
 
 void SummaryBooks::loadTable(Listbox& table, const QString& ledger, const QString& kind)
 {
     const FileProblem problem = listboxManager.loadListBox(table, ledger + kind);
+    if (problem.failed() && !unreadFiles_.contains(kind))
+        unreadFiles_ << kind;
     if (problem.failed())
         tellFileProblem(u"Quillmark couldn't open the ledger \"%1\": %2."_s.arg(shownName(ledger), problem.reason));
 }

@@ -46,8 +46,8 @@ public:
     void showStoredAmountsWithCommas();
     // Loads the selected ledger's two files into accountsBox and transBox.
     void openABook(const QString& name);
-    // Writes the ledger list to "BookList".
-    void saveBooks();
+    // Writes the ledger list to "BookList"; false when it couldn't.
+    bool saveBooks();
     // Whatever fails in the operations below is told to the user, one message
     // an operation, naming the ledger and the system's reason; a file that
     // couldn't be saved stays as it was.
@@ -114,8 +114,13 @@ Q_SIGNALS:
 private:
     // Store and load one table of a ledger ("AccountData", "TransData"); what
     // fails is told to the user, naming the ledger.
-    void saveTable(const Listbox& table, const QString& ledger, const QString& kind);
+    bool saveTable(const Listbox& table, const QString& ledger, const QString& kind);
     void loadTable(Listbox& table, const QString& ledger, const QString& kind);
 
     bool reconcileOn_ = false;
+    // Files that were there but couldn't be read: "BookList" at start, the
+    // open ledger's "AccountData" or "TransData" when it opened. None of them is
+    // written over until it is read again.
+    bool bookListUnread_ = false;
+    QStringList unreadFiles_;
 };
