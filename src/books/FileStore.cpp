@@ -1,6 +1,6 @@
 #include "books/FileStore.h"
 
-#include "books/SaveCalls.h"
+#include "books/FileCalls.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -89,7 +89,7 @@ FileReplacement::FileReplacement(const QString& path)
     const QString name = info.fileName();
     removeSaveLeftovers(info.path(), [&](QStringView fileName) { return fileName == name; });
 
-    const SaveCalls& calls = saveCalls();
+    const FileCalls& calls = fileCalls();
     for (int attempt = 0; attempt < 100 && fd_ < 0; ++attempt) {
         QString suffix = kTemporaryMark.toString();
         for (int i = 0; i < kTemporaryLetters; ++i)
@@ -122,7 +122,7 @@ bool FileReplacement::write(const char* data, qsizetype size)
 {
     if (problem_.failed())
         return false;
-    const SaveCalls& calls = saveCalls();
+    const FileCalls& calls = fileCalls();
     while (size > 0) {
         const ssize_t written = calls.write(fd_, data, size_t(size));
         if (written < 0 && errno == EINTR)
@@ -142,7 +142,7 @@ FileProblem FileReplacement::commit()
 {
     if (problem_.failed())
         return problem_;
-    const SaveCalls& calls = saveCalls();
+    const FileCalls& calls = fileCalls();
     if (calls.fsync(fd_) != 0) {
         fail(systemReason(errno));
         return problem_;
@@ -179,7 +179,7 @@ void FileReplacement::fail(const QString& reason)
 void FileReplacement::discardTemporary()
 {
     if (fd_ >= 0)
-        saveCalls().close(std::exchange(fd_, -1));
+        fileCalls().close(std::exchange(fd_, -1));
     if (!temporaryPath_.isEmpty())
         ::unlink(std::exchange(temporaryPath_, {}).constData());
 }
@@ -194,8 +194,9 @@ FileProblem replaceFile(const QString& path, const QByteArray& bytes)
 FileContent readPlainFile(const QString& path)
 {
     const QByteArray name = encoded(path);
+    const FileCalls& calls = fileCalls();
     // Not following a link, and not waiting for a writer at a named pipe.
-    const int fd = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int fd = calls.open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0);
     if (fd < 0) {
         const int error = errno;
         if (error == ENOENT)
@@ -216,7 +217,7 @@ FileContent readPlainFile(const QString& path)
         bytes.reserve(qsizetype(entry.st_size));
         char buffer[64 * 1024];
         for (;;) {
-            const ssize_t got = ::read(fd, buffer, sizeof buffer);
+            const ssize_t got = calls.read(fd, buffer, sizeof buffer);
             if (got < 0 && errno == EINTR)
                 continue;
             if (got < 0) {
@@ -230,7 +231,7 @@ FileContent readPlainFile(const QString& path)
             bytes.append(buffer, got);
         }
     }
-    ::close(fd);
+    calls.close(fd);
     return content;
 }
 

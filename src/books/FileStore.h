@@ -24,7 +24,7 @@ struct FileProblem {
 // ("<name>.saving-" and six letters or digits) and put in its place in one
 // step once it is complete and synced to the disk; then the folder is synced,
 // so the new name is on the disk too. Every step goes through the calls of
-// SaveCalls and is checked; on any failure the temporary file goes and the old
+// FileCalls and is checked; on any failure the temporary file goes and the old
 // file stays. A replacement that is never committed leaves nothing behind.
 class FileReplacement {
 public:

@@ -9,11 +9,10 @@ FailingSaves::FailingSaves(Step step, qint64 bytes)
     : step_(step)
     , limit_(bytes)
 {
-    const SaveCalls system = systemSaveCalls();
-    SaveCalls calls;
+    const FileCalls system = systemFileCalls();
+    FileCalls calls;
     calls.open = [this, system](const char* path, int flags, mode_t mode) {
-        const bool folder = (flags & O_DIRECTORY) != 0;
-        if ((step_ == Step::Create && !folder)) {
+        if (step_ == Step::Create && (flags & O_CREAT) != 0) {
             errno = EACCES;
             return -1;
         }
@@ -57,12 +56,12 @@ FailingSaves::FailingSaves(Step step, qint64 bytes)
         }
         return system.rename(from, to);
     };
-    previous_ = installSaveCalls(calls);
+    previous_ = installFileCalls(calls);
 }
 
 FailingSaves::~FailingSaves()
 {
-    installSaveCalls(previous_);
+    installFileCalls(previous_);
 }
 
 std::string stepName(FailingSaves::Step step)
@@ -77,4 +76,35 @@ std::string stepName(FailingSaves::Step step)
     case FailingSaves::Step::FolderSync: return "folder sync";
     }
     return {};
+}
+
+FailingReads::FailingReads(const QString& fileName)
+    : name_(fileName.toUtf8())
+{
+    const FileCalls system = systemFileCalls();
+    FileCalls calls;
+    calls.open = [this, system](const char* path, int flags, mode_t mode) {
+        const int fd = system.open(path, flags, mode);
+        const QByteArray opened(path);
+        if (fd >= 0 && (flags & O_ACCMODE) == O_RDONLY && opened.endsWith('/' + name_))
+            failing_.insert(fd);
+        return fd;
+    };
+    calls.read = [this, system](int fd, void* data, size_t size) -> ssize_t {
+        if (failing_.contains(fd)) {
+            errno = EIO;
+            return -1;
+        }
+        return system.read(fd, data, size);
+    };
+    calls.close = [this, system](int fd) {
+        failing_.remove(fd);
+        return system.close(fd);
+    };
+    previous_ = installFileCalls(calls);
+}
+
+FailingReads::~FailingReads()
+{
+    installFileCalls(previous_);
 }

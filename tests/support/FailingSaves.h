@@ -1,8 +1,10 @@
 #pragma once
 
-#include "books/SaveCalls.h"
+#include "books/FileCalls.h"
 
-#include <QtGlobal>
+#include <QByteArray>
+#include <QSet>
+#include <QString>
 
 #include <string>
 
@@ -32,7 +34,22 @@ private:
     Step step_;
     qint64 limit_;
     qint64 written_ = 0;
-    SaveCalls previous_;
+    FileCalls previous_;
 };
 
 std::string stepName(FailingSaves::Step step);
+
+// Makes every read of the files of one name fail with an I/O error, as a bad
+// disk block would, for as long as it lives: the file is there but can't be read.
+class FailingReads {
+public:
+    explicit FailingReads(const QString& fileName);
+    ~FailingReads();
+    FailingReads(const FailingReads&) = delete;
+    FailingReads& operator=(const FailingReads&) = delete;
+
+private:
+    QByteArray name_;
+    QSet<int> failing_;
+    FileCalls previous_;
+};

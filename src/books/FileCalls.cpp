@@ -1,14 +1,15 @@
-#include "books/SaveCalls.h"
+#include "books/FileCalls.h"
 
 #include <cstdio>
 
 #include <fcntl.h>
 #include <unistd.h>
 
-SaveCalls systemSaveCalls()
+FileCalls systemFileCalls()
 {
     return {
         [](const char* path, int flags, mode_t mode) { return ::open(path, flags, mode); },
+        [](int fd, void* data, size_t size) { return ::read(fd, data, size); },
         [](int fd, const void* data, size_t size) { return ::write(fd, data, size); },
         [](int fd) { return ::fsync(fd); },
         [](int fd) { return ::close(fd); },
@@ -18,9 +19,9 @@ SaveCalls systemSaveCalls()
 
 namespace {
 
-SaveCalls& installed()
+FileCalls& installed()
 {
-    static SaveCalls calls = systemSaveCalls();
+    static FileCalls calls = systemFileCalls();
     return calls;
 }
 
@@ -33,10 +34,11 @@ void keepOrReplace(F& present, const F& replacement)
 
 } // namespace
 
-SaveCalls installSaveCalls(const SaveCalls& calls)
+FileCalls installFileCalls(const FileCalls& calls)
 {
-    SaveCalls previous = installed();
+    FileCalls previous = installed();
     keepOrReplace(installed().open, calls.open);
+    keepOrReplace(installed().read, calls.read);
     keepOrReplace(installed().write, calls.write);
     keepOrReplace(installed().fsync, calls.fsync);
     keepOrReplace(installed().close, calls.close);
@@ -44,7 +46,7 @@ SaveCalls installSaveCalls(const SaveCalls& calls)
     return previous;
 }
 
-const SaveCalls& saveCalls()
+const FileCalls& fileCalls()
 {
     return installed();
 }

@@ -1,0 +1,147 @@
+#include "books/AppFolders.h"
+#include "books/FileStore.h"
+#include "books/LedgerNames.h"
+#include "support/DataFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class FileStoreTest : public ::testing::Test {
+protected:
+    QString at(const QString& name) const { return folder.path() + u'/' + name; }
+    QStringList entries() const
+    {
+        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir folder;
+    QTemporaryDir outside;
+};
+
+} // namespace
+
+TEST_F(FileStoreTest, AFilesPathIsMadeInsideBooksOnly)
+{
+    const QString books = folder.path();
+    const QString longest = u"  "_s + QString(228, u'x') + u"AccountData"_s; // 241 bytes
+    for (const QString& good : {u"  ShopAccountData"_s, u"WindowData"_s, u"  ..TransData"_s, u"  Café ☕TransData"_s,
+                                longest})
+        EXPECT_EQ(bookFilePath(books, good).path, books + u'/' + good) << good.toStdString();
+
+    const QString characters = u"a ledger's name can't hold \"/\" or a control character"_s;
+    const QList<std::pair<QString, QString>> refused{
+        {u"  Shared/xAccountData"_s, characters},
+        {u"  ../../../../../v/kTransData"_s, characters},
+        {u"  a"_s + QChar(0) + u"bTransData"_s, characters},
+        {u"  tab\tTransData"_s, characters},
+        {u"  line\nTransData"_s, characters},
+        {u".."_s, u"\"..\" can't name a file"_s},
+        {u"."_s, u"\".\" can't name a file"_s},
+        {u""_s, u"\"\" can't name a file"_s},
+        {longest + u'x', u"its name is too long for a file name"_s},
+        {u"  "_s + QString(120, u'é') + u"TransData"_s, u"its name is too long for a file name"_s}, // 251 bytes
+    };
+    for (const auto& [name, problem] : refused) {
+        const BookFilePath path = bookFilePath(books, name);
+        EXPECT_EQ(path.path, u"") << name.toStdString();
+        EXPECT_EQ(path.problem, problem) << name.toStdString();
+    }
+    EXPECT_EQ(bookFilePath(QString(), u"  ShopAccountData"_s).problem, u"there is no folder \"Books\" to keep it in");
+}
+
+TEST_F(FileStoreTest, OnlyPlainFilesAreReadOrWritten)
+{
+    const QString target = outside.path() + u"/target"_s;
+    writeBytes(target, "the books of someone else");
+    ASSERT_TRUE(QFile::link(target, at(u"link"_s)));
+    ASSERT_TRUE(QFile::link(u"/dev/zero"_s, at(u"zero"_s)));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(at(u"pipe"_s)).constData(), 0600), 0);
+    ASSERT_TRUE(QDir().mkdir(at(u"folder"_s)));
+
+    const QList<std::pair<QString, QString>> entries{
+        {u"link"_s, u"a link"_s}, {u"zero"_s, u"a link"_s}, {u"pipe"_s, u"a named pipe"_s}, {u"folder"_s, u"a folder"_s}};
+    for (const auto& [name, what] : entries) {
+        const QString expected = u"\"%1\" is %2, not a plain file"_s.arg(at(name), what);
+        const FileContent read = readPlainFile(at(name)); // returns at once, also for the pipe
+        EXPECT_FALSE(read.bytes) << name.toStdString();
+        EXPECT_EQ(read.problem, expected);
+        const FileProblem written = replaceFile(at(name), "new books");
+        EXPECT_EQ(written.reason, expected);
+        EXPECT_TRUE(written.oldFileKept);
+    }
+    EXPECT_EQ(readBytes(target), "the books of someone else");
+    EXPECT_TRUE(QFileInfo(at(u"link"_s)).isSymLink());
+    EXPECT_EQ(this->entries().size(), 4) << "nothing was left beside them";
+
+    // A device itself, not a link to one.
+    EXPECT_EQ(readPlainFile(u"/dev/null"_s).problem, u"\"/dev/null\" is a device, not a plain file");
+    // No file: nothing, and no problem.
+    const FileContent missing = readPlainFile(at(u"missing"_s));
+    EXPECT_FALSE(missing.bytes);
+    EXPECT_EQ(missing.problem, u"");
+}
+
+TEST_F(FileStoreTest, ASaveKeepsTheFilesPermissionsAndReadsBackByteForByte)
+{
+    const QString path = at(u"  ShopTransData"_s);
+    writeBytes(path, "old");
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0600), 0);
+    QByteArray bytes(300 * 1024, 'x');
+    bytes[0] = '\0';
+    bytes[bytes.size() - 1] = '\xff';
+    EXPECT_FALSE(replaceFile(path, bytes).failed());
+    EXPECT_EQ(readPlainFile(path).bytes, bytes);
+    struct stat entry {};
+    ASSERT_EQ(::stat(QFile::encodeName(path).constData(), &entry), 0);
+    EXPECT_EQ(entry.st_mode & 07777, 0600u);
+    EXPECT_EQ(entries(), QStringList{u"  ShopTransData"_s});
+}
+
+TEST_F(FileStoreTest, LeftoversOfKilledSavesGoAtTheNextSaveOrStart)
+{
+    TempDataHome home;
+    home.makeFolders();
+    const QString books = home.books();
+    auto leftover = [](const QString& path) { writeBytes(path, "half a ledger"); };
+    leftover(books + u"/  ShopTransData.saving-AbC123"_s);
+    leftover(books + u"/  ShopAccountData.saving-Xy9876"_s);
+    leftover(books + u"/  ShopTransData.saving-Live01"_s);
+    leftover(books + u"/  ShopTransData.saving-abc"_s); // not the mark of a save
+    leftover(home.quillmark() + u"/BookList.saving-Qq1234"_s);
+    leftover(home.path() + u"/Quillmark Preferences.saving-Pp1234"_s);
+    leftover(home.path() + u"/Other Program.saving-Oo1234"_s); // not ours
+    // A save still running in another process holds its file locked.
+    const int live = ::open(QFile::encodeName(books + u"/  ShopTransData.saving-Live01"_s).constData(), O_RDONLY);
+    ASSERT_GE(live, 0);
+    ASSERT_EQ(::flock(live, LOCK_EX), 0);
+
+    EXPECT_FALSE(replaceFile(books + u"/  ShopTransData"_s, "the ledger").failed());
+    EXPECT_EQ(QDir(books).entryList(QDir::Files),
+              (QStringList{u"  ShopAccountData.saving-Xy9876"_s, u"  ShopTransData"_s, u"  ShopTransData.saving-abc"_s,
+                           u"  ShopTransData.saving-Live01"_s}))
+        << "the save took its own file's leftovers only";
+
+    AppFolders::removeSaveLeftovers(home.path());
+    EXPECT_EQ(QDir(books).entryList(QDir::Files),
+              (QStringList{u"  ShopTransData"_s, u"  ShopTransData.saving-abc"_s, u"  ShopTransData.saving-Live01"_s}));
+    EXPECT_FALSE(fileExists(home.quillmark() + u"/BookList.saving-Qq1234"_s));
+    EXPECT_FALSE(fileExists(home.path() + u"/Quillmark Preferences.saving-Pp1234"_s));
+    EXPECT_TRUE(fileExists(home.path() + u"/Other Program.saving-Oo1234"_s));
+
+    ::close(live); // the other save is over, killed or not
+    AppFolders::removeSaveLeftovers(home.path());
+    EXPECT_FALSE(fileExists(books + u"/  ShopTransData.saving-Live01"_s));
+}
