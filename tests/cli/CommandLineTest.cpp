@@ -1,7 +1,10 @@
+#include "cli/CommandLine.h"
 #include "support/DataFolder.h"
+#include "support/FailingSaves.h"
 
 #include <QDir>
 #include <QProcess>
+#include <QTextStream>
 
 #include <gtest/gtest.h>
 
@@ -15,8 +18,9 @@ struct CliRun {
     QString err;
 };
 
-// Runs quillmark-cli as its own process, with no display of any kind.
-CliRun runCli(const QStringList& arguments, const QString& language = u"C.UTF-8"_s)
+// Runs quillmark-cli as its own process, with no display of any kind; with a
+// shell line, inside that shell ("$0" is the program, "$@" the arguments).
+CliRun runCli(const QStringList& arguments, const QString& language = u"C.UTF-8"_s, const QString& shell = {})
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -25,7 +29,10 @@ CliRun runCli(const QStringList& arguments, const QString& language = u"C.UTF-8"
     environment.insert(u"LC_ALL"_s, language);
     environment.insert(u"LANG"_s, language);
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(QUILLMARK_CLI_PATH), arguments);
+    if (shell.isEmpty())
+        process.start(QStringLiteral(QUILLMARK_CLI_PATH), arguments);
+    else
+        process.start(u"bash"_s, QStringList{u"-c"_s, shell, QStringLiteral(QUILLMARK_CLI_PATH)} + arguments);
     EXPECT_TRUE(process.waitForFinished(30000));
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
@@ -173,4 +180,45 @@ TEST_F(CommandLineTest, RefusedAccountInputsWriteNothing)
                                          QStringList{u"new-ledger"_s, u"Garden"_s, u"--revenue"_s}})
         EXPECT_EQ(runCli(data() << arguments).status, 2) << arguments.join(u' ').toStdString();
     EXPECT_EQ(files(), before);
+}
+
+TEST_F(CommandLineTest, AFileThatCantBeSavedIsPrintedWithExitOneAndStaysAsItWas)
+{
+    const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
+    const QByteArray transactions = readBytes(book(u"  ShopTransData"_s));
+    using Step = FailingSaves::Step;
+    for (const auto& [step, reason] : {std::pair{Step::Create, "Permission denied"}, {Step::Write, "No space left on device"},
+                                       {Step::Sync, "Input/output error"}, {Step::Close, "Input/output error"},
+                                       {Step::Rename, "Invalid cross-device link"}}) {
+        QString out;
+        QString err;
+        QTextStream outStream(&out);
+        QTextStream errStream(&err);
+        int status = 0;
+        {
+            const FailingSaves failing(step);
+            status = runCommandLine(QStringList{u"quillmark-cli"_s} << data() << u"recalc"_s << u"Shop"_s, outStream,
+                                    errStream);
+        }
+        errStream.flush();
+        EXPECT_EQ(status, 1) << stepName(step);
+        EXPECT_EQ(err, u"quillmark-cli: Quillmark couldn't save the ledger \"Shop\": %1. It stays as it was before "
+                       "this change.\n"_s.arg(QLatin1StringView(reason)));
+        EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), accounts) << stepName(step);
+        EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions) << stepName(step);
+    }
+
+    // The system itself refusing: a limit on the size of the files a process
+    // writes, below the size of the transactions (no root needed for that).
+    QByteArray many;
+    for (int row = 0; row < 100; ++row)
+        many += "@#@Sales@#@2014-03-09@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@false@#@Never@#@\n";
+    writeBytes(book(u"  ShopTransData"_s), many);
+    const CliRun run = runCli(data() << u"recalc"_s << u"Shop"_s, u"C.UTF-8"_s,
+                              u"trap '' XFSZ; ulimit -f 2; exec \"$0\" \"$@\""_s);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, u"quillmark-cli: Quillmark couldn't save the ledger \"Shop\": File too large. It stays as it was "
+                       "before this change.\n");
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), many);
+    EXPECT_EQ(QDir(home.books()).entryList(QDir::Files).size(), 2) << "nothing left beside the files";
 }

@@ -1,4 +1,5 @@
 #include "mainwindow/SummaryWindowFixture.h"
+#include "support/FailingSaves.h"
 #include "widgets/WindowSplitter.h"
 
 #include <QCheckBox>
@@ -71,6 +72,36 @@ TEST_F(SummaryWindowEventsTest, ClosingStoresTheOpenLedgerAndTheWindowsPlace)
     EXPECT_TRUE(transFile().contains("@#@20@#@@#@memo on closing@#@@#@Never@#@\n"));
     EXPECT_EQ(readBytes(home.books() + u"/WindowData"_s), QByteArray("40\n30\n900\n650\n"));
     EXPECT_EQ(readBytes(home.path() + u"/Quillmark_WindowData"_s), QByteArray("Quillmark;30;40;900;650\n"));
+}
+
+TEST_F(SummaryWindowEventsTest, ClosingOnAFullDiskSaysSoOnceBeforeTheEndAndKeepsTheFiles)
+{
+    SummaryWindow* window = openShop();
+    window->accountsBox().SetCell(1, 6, u"not stored"_s);
+    const QByteArray accounts = accountsFile();
+    const QByteArray transactions = transFile();
+    int quitsWhenTold = -1;
+    const BlockingServiceHooks scripted = blockingServices();
+    BlockingServiceHooks watching;
+    watching.msgBox = [&](const QString& message) {
+        quitsWhenTold = platform.quits;
+        scripted.msgBox(message);
+    };
+    installBlockingServices(watching);
+    {
+        const FailingSaves full(FailingSaves::Step::Write, 0);
+        window->close();
+    }
+    EXPECT_EQ(platform.quits, 1);
+    EXPECT_EQ(quitsWhenTold, 0) << "told before the application ends";
+    EXPECT_EQ(platform.messages,
+              QStringList{u"Quillmark couldn't save the places of its windows: No space left on device.\n\n"
+                          "Quillmark couldn't save the ledger \"Shop\": No space left on device. It stays as it was "
+                          "before this change."_s});
+    EXPECT_EQ(accountsFile(), accounts);
+    EXPECT_EQ(transFile(), transactions);
+    EXPECT_FALSE(fileExists(home.books() + u"/WindowData"_s));
+    EXPECT_EQ(QDir(home.books()).entryList(QDir::Files).size(), 2) << "nothing left beside the files";
 }
 
 TEST_F(SummaryWindowEventsTest, TheWindowTakesBackItsPlaceWithinOneRunOnly)
