@@ -172,6 +172,15 @@ StrText::StrText(double value)
         exponent = exponent * 10 + (*p - '0');
     if (negativeExponent)
         exponent = -exponent;
+    // Next to the largest double, 15 digits can round up past it, to a text that
+    // reads back as infinite: the 15 digits just below are the stored form then.
+    double readBack = 0;
+    if (std::from_chars(scientific, converted.ptr, readBack).ec == std::errc::result_out_of_range) {
+        int at = digitCount - 1;
+        while (digits[at] == '0')
+            digits[at--] = '9';
+        --digits[at];
+    }
     while (digitCount > 1 && digits[digitCount - 1] == '0')
         --digitCount;
 

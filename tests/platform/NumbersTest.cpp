@@ -31,11 +31,18 @@ TEST(Numbers, StrIsPlainDecimalWithFifteenDigits)
         {"roundsUpADigit", 999999999999999.9, u"1000000000000000"_s},
         {"hugeWhole", 1e20, u"100000000000000000000"_s}, {"tiny", 1.5e-7, u"0.00000015"_s},
         {"fifteenDigits", 123456789.123456789, u"123456789.123457"_s},
-        {"largest", std::numeric_limits<double>::max(), u"179769313486232"_s + QString(294, u'0')},
+        // Rounding up would pass the largest double and read back as infinite.
+        {"largest", std::numeric_limits<double>::max(), u"179769313486231"_s + QString(294, u'0')},
+        {"mostNegative", -std::numeric_limits<double>::max(), u"-179769313486231"_s + QString(294, u'0')},
+        {"belowLargest", 1.7976931348623e308, u"179769313486230"_s + QString(294, u'0')},
         {"infinity", HUGE_VAL, u"INF"_s}, {"negativeInfinity", -HUGE_VAL, u"-INF"_s}, {"nan", std::nan(""), u"NAN"_s},
     };
-    for (const Case& c : cases)
+    for (const Case& c : cases) {
         EXPECT_EQ(Str(c.value), c.expected) << c.name;
+        if (std::isfinite(c.value)) {
+            EXPECT_TRUE(std::isfinite(Val(Str(c.value)))) << c.name << ": the stored text reads back";
+        }
+    }
 }
 
 TEST(Numbers, StrRoundsAsPrintfDoes)
