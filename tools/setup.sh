@@ -12,20 +12,8 @@ esac
 
 cd "$(dirname "$0")/.."
 
-packages=(build-essential cmake ninja-build qt6-base-dev qt6-qpa-plugins
-          libgtest-dev libgmock-dev libbenchmark-dev
-          fonts-dejavu-core xvfb xauth)
-missing=()
-for p in "${packages[@]}"; do
-    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-    echo "Installing: ${missing[*]}"
-    sudo=""
-    [ "$(id -u)" -eq 0 ] || sudo="sudo"
-    $sudo apt-get update
-    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y --no-install-recommends "${missing[@]}"
-fi
+./tools/install-packages.sh build-essential cmake ninja-build qt6-base-dev qt6-qpa-plugins \
+    libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core xvfb xauth
 
 build=build
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo

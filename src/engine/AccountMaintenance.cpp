@@ -1,6 +1,7 @@
 #include "engine/AccountMaintenance.h"
 
 #include "books/rowtable/Listbox.h"
+#include "books/rowtable/ListboxManager.h"
 #include "engine/RowLayouts.h"
 
 using namespace Qt::StringLiterals;
@@ -14,7 +15,7 @@ bool sameName(QStringView a, QStringView b)
 
 bool breaksARow(QStringView text)
 {
-    return text.contains(Listbox::kSeparator) || text.contains(u'\n') || text.contains(u'\r');
+    return !ListboxManager::fitsTheFile(text);
 }
 
 } // namespace
@@ -51,7 +52,8 @@ bool checkName(const Listbox& accounts, QStringView name)
 QString accountFieldsProblem(const AccountFields& fields)
 {
     if (breaksARow(fields.name) || breaksARow(fields.typeWord) || breaksARow(fields.opening) || breaksARow(fields.notes))
-        return u"An account can't hold the text \"@#@\" or a line break. Please remove it from the name, amount or notes."_s;
+        return u"An account can't hold the text \"@#@\" or a line break, or end in \"@#\". Please remove it from the "
+               "name, amount or notes."_s;
     return {};
 }
 

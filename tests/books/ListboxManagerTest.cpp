@@ -41,24 +41,26 @@ TEST_F(ListboxManagerTest, SavesEveryCellFollowedByTheSeparator)
 
 TEST_F(ListboxManagerTest, LoadsWhatFilesHoldAndEmptiesColumnZero)
 {
-    // Blank lines, other systems' line ends, short lines, extra fields and a
-    // first field that must not survive.
+    // Blank lines, other systems' line ends, short lines, extra fields, a
+    // separator cut short and a first field that must not survive.
     writeBytes(path(u"table"_s), "999@#@Cash@#@1200.00@#@\r\n"
                                  "\n"
                                  "\r\n"
                                  "1@#@Short\r"
                                  "2@#@a@#@b@#@extra@#@more@#@\n"
+                                 "3@#@cut@#\n"
                                  "@#@\xC3\xA9t\xC3\xA9@#@@#@");
     Listbox table(u"t"_s, 3);
     table.AddRow(u"replaced by the load");
     manager.loadListBox(table, u"table"_s);
 
-    ASSERT_EQ(table.ListCount(), 4);
+    ASSERT_EQ(table.ListCount(), 5);
     const QList<QStringList> expected{{{}, u"Cash"_s, u"1200.00"_s},
                                       {{}, u"Short"_s, {}},
                                       {{}, u"a"_s, u"b"_s},
+                                      {{}, u"cut"_s, {}},
                                       {{}, u"été"_s, {}}};
-    for (int row = 0; row < 4; ++row) {
+    for (int row = 0; row < 5; ++row) {
         for (int c = 0; c < 3; ++c)
             EXPECT_EQ(table.Cell(row, c), expected[row][c]) << "row " << row << " column " << c;
         EXPECT_EQ(table.Cell(row, 3), u"") << "extra fields are ignored, not kept in the hidden cell";
@@ -68,7 +70,8 @@ TEST_F(ListboxManagerTest, LoadsWhatFilesHoldAndEmptiesColumnZero)
     manager.saveListBox(table, u"table"_s);
     manager.loadListBox(table, u"table"_s);
     manager.saveListBox(table, u"table"_s);
-    EXPECT_EQ(readBytes(path(u"table"_s)), QByteArray("@#@Cash@#@1200.00@#@\n@#@Short@#@@#@\n@#@a@#@b@#@\n@#@\xC3\xA9t\xC3\xA9@#@@#@\n"));
+    EXPECT_EQ(readBytes(path(u"table"_s)),
+              QByteArray("@#@Cash@#@1200.00@#@\n@#@Short@#@@#@\n@#@a@#@b@#@\n@#@cut@#@@#@\n@#@\xC3\xA9t\xC3\xA9@#@@#@\n"));
 }
 
 TEST_F(ListboxManagerTest, LeavesTheTableAloneWithoutAFile)

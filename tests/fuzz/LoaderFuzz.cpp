@@ -47,7 +47,10 @@ struct Setting {
         putFile(folder.path() + u"/BookList"_s, "  Fuzz\n", 7);
     }
     QString books() const { return folder.path() + u"/Books"_s; }
-    QTemporaryDir folder;
+    // In memory where the system has such a folder: a rename over a file on disk
+    // flushes it, and the target renames four files a run.
+    QTemporaryDir folder{QDir(u"/dev/shm"_s).exists() ? u"/dev/shm/quillmark-fuzz-XXXXXX"_s
+                                                      : QDir::tempPath() + u"/quillmark-fuzz-XXXXXX"_s};
 };
 
 } // namespace

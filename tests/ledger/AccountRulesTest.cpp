@@ -68,7 +68,8 @@ TEST_F(AccountRulesTest, ARefusedAccountChangesNothing)
     EXPECT_EQ(books.saveAccount(fields(u"rent"_s), true, 2, u"Rent"_s), kNameInUse);
     // Text that would break a row of the files.
     for (const AccountFields& breaking : {fields(u"Tips@#@Jar"_s), fields(u"Tips"_s, u"Expense"_s, u"1\n2"_s),
-                                          fields(u"Tips"_s, u"Expense"_s, {}, u"line\rbreak"_s)})
+                                          fields(u"Tips"_s, u"Expense"_s, {}, u"line\rbreak"_s),
+                                          fields(u"Tips@#"_s) /* runs into the separator after it */})
         EXPECT_TRUE(books.saveAccount(breaking, true, -1, {}).startsWith(u"An account can't hold the text \"@#@\""));
     EXPECT_FALSE(books.saveAccount(fields(u"Rent@#@"_s), false, 2, u"Rent"_s).isEmpty()) << "also with no name check";
 

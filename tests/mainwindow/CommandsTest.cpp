@@ -168,8 +168,8 @@ TEST_F(CommandsTest, AddingAnAccountChecksItsNameAndStoresIt)
     QTest::mouseClick(dialog->PushButton1, Qt::LeftButton);
     EXPECT_EQ(platform.messages,
               (QStringList{u"That account name is already in use. Please enter a different name."_s,
-                           u"An account can't hold the text \"@#@\" or a line break. Please remove it from the "
-                           "name, amount or notes."_s}));
+                           u"An account can't hold the text \"@#@\" or a line break, or end in \"@#\". Please "
+                           "remove it from the name, amount or notes."_s}));
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(accountsFile(), accounts);
 

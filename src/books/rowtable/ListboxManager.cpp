@@ -20,6 +20,11 @@ constexpr int kTypeColumn = 2;
 // line's fields are empty, fields beyond the last column are ignored.
 Listbox::Row rowFromLine(QStringView line, int columnCount)
 {
+    // A line that ends in part of a separator was cut short; the part is no text
+    // of the last cell, which couldn't be stored again ("x@#" and "@#@" make
+    // "x@#@#@", which splits after "x").
+    while (line.endsWith(u"@#"))
+        line.chop(2);
     QVarLengthArray<QStringView, 16> cells(columnCount);
     std::fill(cells.begin(), cells.end(), QStringView());
     qsizetype at = line.indexOf(kSeparator);
@@ -96,6 +101,13 @@ std::vector<Listbox::Row> ListboxManager::rowsOfText(QStringView text, int colum
             rows.back().setPicture(accountPicture(rows.back(), rows.size() == 1));
     });
     return rows;
+}
+
+bool ListboxManager::fitsTheFile(QStringView cell)
+{
+    // A cell ending in "@#" runs into the separator after it: "x@#" + "@#@" reads
+    // back as "x" and a stray "#@" at the start of the next cell.
+    return !cell.contains(kSeparator) && !cell.contains(u'\n') && !cell.contains(u'\r') && !cell.endsWith(u"@#");
 }
 
 void ListboxManager::convertToSQLdate(Listbox& table)

@@ -11,7 +11,8 @@
 //
 // A table file holds one line a row; a line is every cell of the row followed by
 // "@#@" (hidden cell and column count not included), UTF-8, ending in "\n". There is
-// no escaping: a cell holding "@#@" or a line break doesn't survive a reload.
+// no escaping: a cell holding "@#@" or a line break, or ending in "@#", doesn't
+// survive a reload.
 class ListboxManager {
 public:
     // The folder "Books" that file names are resolved in; empty while there is none.
@@ -35,5 +36,7 @@ public:
     // Rewrites every date of transBox in column 2 that ParseDate reads into its
     // SQLDate form; other texts stay. Does nothing to any other table.
     static void convertToSQLdate(Listbox& table);
+    // Whether a cell's text comes back from its table file as it went in.
+    static bool fitsTheFile(QStringView cell);
 
 };
