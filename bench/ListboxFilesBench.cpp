@@ -1,14 +1,20 @@
 // Saving and loading a transaction table of 1,000 to 100,000 rows with realistic
-// cells. The "table_bytes" counter is the heap the loaded table holds.
+// cells. The "table_bytes" counter is the heap the loaded table holds. A save
+// syncs the file and its folder; beside it the same save without the syncs, and
+// the folder's sync alone, tell what the syncs cost.
+#include "books/FileCalls.h"
 #include "books/rowtable/Listbox.h"
 #include "books/rowtable/ListboxManager.h"
 #include "engine/RowLayouts.h"
 #include "reference/GeneratedLedger.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
 #include <malloc.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +47,36 @@ void BM_SaveTransBox(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+void BM_SaveTransBoxWithoutSync(benchmark::State& state)
+{
+    Fixture fixture(int(state.range(0)));
+    FileCalls noSync;
+    noSync.fsync = [](int) { return 0; };
+    const FileCalls previous = installFileCalls(noSync);
+    for (auto _ : state)
+        fixture.manager.saveListBox(fixture.transBox, fixture.fileName);
+    installFileCalls(previous);
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BM_SyncFolder(benchmark::State& state)
+{
+    // After a rename, as a save leaves the folder.
+    QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.path());
+    const QByteArray from = path + "/new";
+    const QByteArray to = path + "/file";
+    for (auto _ : state) {
+        state.PauseTiming();
+        ::close(::open(from.constData(), O_WRONLY | O_CREAT, 0644));
+        ::rename(from.constData(), to.constData());
+        state.ResumeTiming();
+        const int fd = ::open(path.constData(), O_RDONLY | O_DIRECTORY);
+        ::fsync(fd);
+        ::close(fd);
+    }
+}
+
 void BM_LoadTransBox(benchmark::State& state)
 {
     Fixture fixture(int(state.range(0)));
@@ -62,4 +98,6 @@ void BM_LoadTransBox(benchmark::State& state)
 } // namespace
 
 BENCHMARK(BM_SaveTransBox)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SaveTransBoxWithoutSync)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SyncFolder)->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_LoadTransBox)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
