@@ -1,5 +1,7 @@
 #include "books/FileCalls.h"
 
+#include "platform/Hooks.h"
+
 #include <cstdio>
 
 #include <fcntl.h>
@@ -25,25 +27,12 @@ FileCalls& installed()
     return calls;
 }
 
-template <typename F>
-void keepOrReplace(F& present, const F& replacement)
-{
-    if (replacement)
-        present = replacement;
-}
-
 } // namespace
 
 FileCalls installFileCalls(const FileCalls& calls)
 {
-    FileCalls previous = installed();
-    keepOrReplace(installed().open, calls.open);
-    keepOrReplace(installed().read, calls.read);
-    keepOrReplace(installed().write, calls.write);
-    keepOrReplace(installed().fsync, calls.fsync);
-    keepOrReplace(installed().close, calls.close);
-    keepOrReplace(installed().rename, calls.rename);
-    return previous;
+    return replaceSetHooks(installed(), calls, &FileCalls::open, &FileCalls::read, &FileCalls::write, &FileCalls::fsync,
+                           &FileCalls::close, &FileCalls::rename);
 }
 
 const FileCalls& fileCalls()

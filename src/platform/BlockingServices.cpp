@@ -1,5 +1,7 @@
 #include "platform/BlockingServices.h"
 
+#include "platform/Hooks.h"
+
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
@@ -29,24 +31,12 @@ BlockingServiceHooks& current()
     return hooks;
 }
 
-template <typename F>
-void replaceIfSet(F& target, const F& replacement)
-{
-    if (replacement)
-        target = replacement;
-}
-
 } // namespace
 
 BlockingServiceHooks installBlockingServices(const BlockingServiceHooks& hooks)
 {
-    BlockingServiceHooks previous = current();
-    replaceIfSet(current().msgBox, hooks.msgBox);
-    replaceIfSet(current().messageDialog, hooks.messageDialog);
-    replaceIfSet(current().beep, hooks.beep);
-    replaceIfSet(current().showUrl, hooks.showUrl);
-    replaceIfSet(current().quit, hooks.quit);
-    return previous;
+    return replaceSetHooks(current(), hooks, &BlockingServiceHooks::msgBox, &BlockingServiceHooks::messageDialog,
+                           &BlockingServiceHooks::beep, &BlockingServiceHooks::showUrl, &BlockingServiceHooks::quit);
 }
 
 const BlockingServiceHooks& blockingServices()
