@@ -186,27 +186,24 @@ TEST_F(CommandLineTest, AFileThatCantBeSavedIsPrintedWithExitOneAndStaysAsItWas)
 {
     const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
     const QByteArray transactions = readBytes(book(u"  ShopTransData"_s));
-    using Step = FailingSaves::Step;
-    for (const auto& [step, reason] : {std::pair{Step::Create, "Permission denied"}, {Step::Write, "No space left on device"},
-                                       {Step::Sync, "Input/output error"}, {Step::Close, "Input/output error"},
-                                       {Step::Rename, "Invalid cross-device link"}}) {
-        QString out;
-        QString err;
-        QTextStream outStream(&out);
-        QTextStream errStream(&err);
-        int status = 0;
-        {
-            const FailingSaves failing(step);
-            status = runCommandLine(QStringList{u"quillmark-cli"_s} << data() << u"recalc"_s << u"Shop"_s, outStream,
-                                    errStream);
-        }
-        errStream.flush();
-        EXPECT_EQ(status, 1) << stepName(step);
-        EXPECT_EQ(err, u"quillmark-cli: Quillmark couldn't save the ledger \"Shop\": %1. It stays as it was before "
-                       "this change.\n"_s.arg(QLatin1StringView(reason)));
-        EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), accounts) << stepName(step);
-        EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions) << stepName(step);
+    // Every step of a save is tested failing for every kind of file with the
+    // books; here, that the command line says so and fails.
+    QString out;
+    QString err;
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    int status = 0;
+    {
+        const FailingSaves failing(FailingSaves::Step::Rename);
+        status = runCommandLine(QStringList{u"quillmark-cli"_s} << data() << u"recalc"_s << u"Shop"_s, outStream,
+                                errStream);
     }
+    errStream.flush();
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(err, u"quillmark-cli: Quillmark couldn't save the ledger \"Shop\": Invalid cross-device link. It stays as "
+                   "it was before this change.\n");
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), accounts);
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions);
 
     // The system itself refusing: a limit on the size of the files a process
     // writes, below the size of the transactions (no root needed for that).

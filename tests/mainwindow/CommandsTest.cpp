@@ -162,14 +162,10 @@ TEST_F(CommandsTest, AddingAnAccountChecksItsNameAndStoresIt)
     EXPECT_FALSE(dialog->PushButton1->isEnabled());
     const QByteArray accounts = accountsFile();
 
+    // The rules are the books' (tested there); the dialog shows a refusal and stays.
     QTest::keyClicks(dialog->EditField1, u"rENT"_s);
     QTest::mouseClick(dialog->PushButton1, Qt::LeftButton);
-    dialog->EditField1->setText(u"Tips@#@Jar"_s);
-    QTest::mouseClick(dialog->PushButton1, Qt::LeftButton);
-    EXPECT_EQ(platform.messages,
-              (QStringList{u"That account name is already in use. Please enter a different name."_s,
-                           u"An account can't hold the text \"@#@\" or a line break, or end in \"@#\". Please "
-                           "remove it from the name, amount or notes."_s}));
+    EXPECT_EQ(platform.messages, QStringList{u"That account name is already in use. Please enter a different name."_s});
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(accountsFile(), accounts);
 
@@ -201,11 +197,9 @@ TEST_F(CommandsTest, EditingKeepsTheTypeAndRenamesTheTransactionsInAnyCase)
     dialog->EditField3->clear();
     QTest::mouseClick(dialog->PushButton1, Qt::LeftButton);
     EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(column(window->transBox(), 1), (QStringList{u"Rent"_s, u"Takings"_s, u"FUEL"_s, u"Takings"_s}));
-    EXPECT_EQ(window->accountsBox().Cell(2, 0), u"");
+    EXPECT_EQ(column(window->transBox(), 1), (QStringList{u"Rent"_s, u"Takings"_s, u"FUEL"_s, u"Takings"_s}))
+        << "the row the dialog was opened on, renamed with its transactions";
     EXPECT_EQ(window->accountsBox().Cell(2, 3), u"0.00") << "an empty opening shows as 0.00";
-    EXPECT_TRUE(accountsFile().contains("\n@#@Takings@#@Revenue@#@@#@30@#@30@#@@#@\n"));
-    EXPECT_EQ(transFile().count("@#@Takings@#@"), 2);
 
     // A name typed back to the account's own, in another case, counts as in use.
     doubleClick(window->accountsBoxView, 1);
