@@ -5,6 +5,7 @@
 #include "books/ui/PrefsWindow.h"
 #include "books/ui/newBookWindow.h"
 #include "engine/ui/AccountWindow.h"
+#include "engine/ui/TransactionWindow.h"
 #include "mainwindow/SummaryWindow.h"
 #include "update/ui/AboutWindow.h"
 
@@ -46,6 +47,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         auto* window = new ::SummaryWindow(SummaryDialogs{
             .AccountWindow = &Windows::AccountWindow,
+            .TransactionWindow = &Windows::TransactionWindow,
             .newBookWindow = &Windows::newBookWindow,
         });
         App::AddMenuHandlers(*window->menuBar());
@@ -59,6 +61,15 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         ::SummaryWindow* summary = Windows::SummaryWindow();
         return new ::AccountWindow(summary->books(), summary);
+    });
+}
+
+::TransactionWindow* Windows::TransactionWindow()
+{
+    static QPointer<::TransactionWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        return new ::TransactionWindow(summary->books(), summary);
     });
 }
 

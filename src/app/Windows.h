@@ -11,6 +11,7 @@ class SplashWindow;
 class AboutWindow;
 class PrefsWindow;
 class AccountWindow;
+class TransactionWindow;
 
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
@@ -39,4 +40,5 @@ namespace Windows {
 ::AboutWindow* AboutWindow();
 ::PrefsWindow* PrefsWindow();
 ::AccountWindow* AccountWindow();
+::TransactionWindow* TransactionWindow();
 } // namespace Windows

@@ -4,8 +4,10 @@
 #include "books/TextFiles.h"
 #include "engine/AccountMaintenance.h"
 #include "engine/BalanceCalculation.h"
+#include "engine/Repeats.h"
 #include "engine/RowLayouts.h"
 #include "platform/BlockingServices.h"
+#include "platform/Clock.h"
 #include "platform/FileProblems.h"
 #include "platform/Numbers.h"
 #include "platform/TextHelpers.h"
@@ -420,7 +422,68 @@ void SummaryBooks::doCheckboxes()
 
 void SummaryBooks::CheckRepeats()
 {
-    // Repeating transactions are posted here once they can be entered.
+    postDueRepeats(transBox, Clock::now());
+}
+
+int SummaryBooks::editAddTransaction(const TransactionForm& form, bool editing, const AccountList* accountList)
+{
+    const FileProblemGathering oneMessage;
+    int row = -1;
+    if (!editing) {
+        transBox.AddRow(u"");
+        row = transBox.LastIndex();
+    } else if (accountList) {
+        const Listbox& list = accountList->list;
+        if (list.ListIndex() >= 0)
+            row = int(Val(list.CellView(list.ListIndex(), TransCol::Seconds)));
+    } else {
+        row = transBox.ListIndex();
+    }
+    if (row < 0 || row >= transBox.ListCount())
+        return -1;
+    writeTransaction(transBox, row, form);
+    calcAll();
+    accountsBox.SetListIndex(form.accountRow);
+
+    if (accountList) {
+        Listbox& list = accountList->list;
+        int line = list.ListIndex();
+        if (!editing) {
+            list.AddRow(u"999");
+            line = list.LastIndex();
+        }
+        writeAccountListLine(list, line, form, !editing, row);
+        if (accountList->updateBalance)
+            accountList->updateBalance();
+        storeTransactions();
+    }
+    CheckRepeats();
+    return row;
+}
+
+int SummaryBooks::doGST(const TransactionForm& form, const AccountList* accountList)
+{
+    const FileProblemGathering oneMessage;
+    transBox.AddRow(u"1000");
+    const int row = transBox.LastIndex();
+    writeGstRow(transBox, row, form);
+    calcAll();
+    accountsBox.SetListIndex(form.accountRow);
+    if (accountList) {
+        Listbox& list = accountList->list;
+        list.AddRow(u"1000");
+        writeAccountListGstLine(list, list.LastIndex(), form, row);
+        if (accountList->updateBalance)
+            accountList->updateBalance();
+    }
+    return row;
+}
+
+void SummaryBooks::storeTransactions()
+{
+    const FileProblemGathering oneMessage;
+    if (LedgerList.ListIndex() > -1)
+        saveTable(transBox, theLedger, kTransData);
 }
 
 void SummaryBooks::reconcilecheckbox_Action(bool checked)

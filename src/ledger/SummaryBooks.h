@@ -3,6 +3,7 @@
 #include "books/rowtable/Listbox.h"
 #include "books/rowtable/ListboxManager.h"
 #include "engine/AccountMaintenance.h"
+#include "engine/TransactionEntry.h"
 
 #include <QObject>
 #include <QString>
@@ -78,6 +79,19 @@ public:
     // The toolbar's Delete: the selected account and all its transactions, after
     // the user's confirmation. The Base Account can't be deleted.
     void deleteSelectedAccount();
+    // The transaction dialog's OK (editAddTransaction): the form goes into a new
+    // row of transBox or, editing, into the selected one (or the row that the
+    // selected line of an account's list links to); calcAll recalculates and
+    // stores both tables; the form's account is selected; the account's list, if
+    // one asked for the dialog, shows the change and transBox is stored again;
+    // then the due repeats are posted. Returns the row written, -1 for none.
+    int editAddTransaction(const TransactionForm& form, bool editing, const AccountList* accountList = nullptr);
+    // The GST button, after editAddTransaction: a GST row of its own beside the
+    // transaction, also when one was edited; calcAll; the form's account is
+    // selected; the account's list shows the row too. Returns the row.
+    int doGST(const TransactionForm& form, const AccountList* accountList = nullptr);
+    // Stores transBox, if a ledger is open: a transaction opened for editing.
+    void storeTransactions();
     // The context menu of transBox: one item "number-name" for every account but
     // the Base Account; choosing one gives the selected transaction that account.
     QStringList transBox_ContextualMenuItems() const;
@@ -95,7 +109,8 @@ public:
     void calcAll();
     // Sets the reconcile boxes of transBox from their stored column.
     void doCheckboxes();
-    // Posts the repeating transactions that are due.
+    // Posts the repeating transactions that are due, by the clock; nothing is
+    // stored or recalculated (see postDueRepeats).
     void CheckRepeats();
     // Whether only reconciled transactions count (the window's reconcile box).
     bool reconcileOn() const { return reconcileOn_; }

@@ -3,6 +3,7 @@
 #include <functional>
 
 class AccountWindow;
+class TransactionWindow;
 class newBookWindow;
 
 // The dialogs the main window opens, each reached through the accessor of its
@@ -11,5 +12,6 @@ class newBookWindow;
 // never makes or wires another window itself.
 struct SummaryDialogs {
     std::function<::AccountWindow*()> AccountWindow;
+    std::function<::TransactionWindow*()> TransactionWindow;
     std::function<::newBookWindow*()> newBookWindow;
 };

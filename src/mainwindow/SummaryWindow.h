@@ -78,6 +78,12 @@ public:
     void Event_EnableMenuItems();
     void _FilePrint_Action();
     void _FileNewAccount_Action();
+    void _FileNewTransaction_Action();
+    void addtransbtn_Action();
+    // Opens the transaction dialog on the selected transaction.
+    void editTransaction();
+    void editTransBtn_Action() { editTransaction(); }
+    void transBox_DoubleClick() { editTransaction(); }
     // Opens the account dialog on the selected account.
     void editAccount();
     void accountsBox_DoubleClick();

@@ -4,6 +4,8 @@
 
 #include "books/rowtable/ui/ListboxView.h"
 #include "engine/ui/AccountWindow.h"
+#include "engine/ui/TransactionWindow.h"
+#include "widgets/AutoButton.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
@@ -28,6 +30,7 @@ void SummaryWindow::buildMenuBar()
     MenuBar1::bind(bar, u"FileQuit"_s, this, [this] { close(); });
     MenuBar1::bind(bar, u"FilePrint"_s, this, [this] { _FilePrint_Action(); });
     MenuBar1::bind(bar, u"FileNewAccount"_s, this, [this] { _FileNewAccount_Action(); });
+    MenuBar1::bind(bar, u"FileNewTransaction"_s, this, [this] { _FileNewTransaction_Action(); });
     if (QMenu* file = bar.findChild<QMenu*>(u"FileMenu"_s))
         connect(file, &QMenu::aboutToShow, this, &SummaryWindow::Event_EnableMenuItems);
 }
@@ -40,6 +43,9 @@ void SummaryWindow::connectCommands()
     connect(&books_, &SummaryBooks::importAvailable, this, &SummaryWindow::Event_EnableMenuItems);
     connect(&books_, &SummaryBooks::searchFieldCleared, EditField1, &QLineEdit::clear);
     connect(&books_.accountsBox, &Listbox::DoubleClick, this, &SummaryWindow::accountsBox_DoubleClick);
+    connect(&books_.transBox, &Listbox::DoubleClick, this, &SummaryWindow::transBox_DoubleClick);
+    connect(addtransbtn, &AutoButton::Action, this, &SummaryWindow::addtransbtn_Action);
+    connect(editTransBtn, &AutoButton::Action, this, &SummaryWindow::editTransBtn_Action);
     transBoxView->CellClick = [this](int row, int column, int x, int y, bool contextual) {
         return transBox_CellClick(row, column, x, y, contextual);
     };
@@ -68,6 +74,30 @@ void SummaryWindow::_FileNewAccount_Action()
     ::AccountWindow* dialog = dialogs_.AccountWindow();
     dialog->nameChanged = true;
     dialog->show();
+}
+
+void SummaryWindow::_FileNewTransaction_Action()
+{
+    dialogs_.TransactionWindow()->show();
+}
+
+void SummaryWindow::addtransbtn_Action()
+{
+    if (books_.LedgerList.ListIndex() == -1)
+        return;
+    ::TransactionWindow* dialog = dialogs_.TransactionWindow();
+    if (books_.accountsBox.ListIndex() > 0)
+        dialog->chooseAccount(books_.accountsBox.ListIndex());
+    dialog->whichWindow = this;
+    dialog->show();
+}
+
+void SummaryWindow::editTransaction()
+{
+    const int row = books_.transBox.ListIndex();
+    if (row == -1)
+        return MsgBox(u"No transaction selected."_s);
+    dialogs_.TransactionWindow()->editTransaction(row);
 }
 
 void SummaryWindow::Toolbar11_Action(QAction* item)

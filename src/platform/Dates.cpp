@@ -232,6 +232,19 @@ bool ParseDate(QStringView text, QDate& date)
     return twoDigitYear && readWithFormat(text, format, true, locale, date);
 }
 
+QDate addMonthsCarrying(const QDate& date, int months)
+{
+    if (!date.isValid())
+        return {};
+    const QDate first = QDate(date.year(), date.month(), 1).addMonths(months);
+    return first.addDays(date.day() - 1);
+}
+
+QDate addYearsCarrying(const QDate& date, int years)
+{
+    return addMonthsCarrying(date, 12 * years);
+}
+
 QString SQLDate(const QDate& date)
 {
     if (!date.isValid())

@@ -16,6 +16,13 @@
 // Only real dates of the years 1 to 9999 are read: "2014-02-30" fails.
 bool ParseDate(QStringView text, QDate& date);
 
+// The date with its month or year moved on, keeping its day number: days the
+// new month lacks carry over into the month after, as a date object of the
+// platform does when its Month or Year is set. 31 January plus a month is
+// 3 March (2 March in a leap year); 29 February plus a year is 1 March.
+QDate addMonthsCarrying(const QDate& date, int months);
+QDate addYearsCarrying(const QDate& date, int years);
+
 // YYYY-MM-DD, zero-padded (2014-03-09); "" for an invalid date.
 QString SQLDate(const QDate& date);
 
