@@ -2,40 +2,51 @@
 
 #include "books/AppFolders.h"
 #include "books/LedgerNames.h"
-#include "engine/AccountMaintenance.h"
-#include "engine/RowLayouts.h"
-#include "ledger/SummaryBooks.h"
+#include "cli/Verbs.h"
 #include "platform/BlockingServices.h"
+#include "platform/Clock.h"
 
-#include <QCommandLineParser>
-#include <QSignalBlocker>
-#include <QTextStream>
+#include <QRegularExpression>
 
 #include <algorithm>
-#include <map>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kHelp = u"Usage: quillmark-cli [--data DIR] COMMAND\n"
+const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] COMMAND\n"
                       "\n"
-                      "Works on the ledgers of Quillmark without opening a window.\n"
+                      "Works on the ledgers of Quillmark without opening a window, through the same\n"
+                      "calls as the windows. Every command but list and new-ledger opens its ledger as\n"
+                      "a click on it does, which posts the repeating transactions that are due.\n"
                       "\n"
                       "Commands:\n"
                       "  list           Prints the name of every ledger in the ledger list, one a line.\n"
-                      "  recalc NAME    Opens the ledger NAME as the main window does, recalculates every\n"
-                      "                 account and the Base Account from the transactions (reconciled or\n"
-                      "                 not), and stores both of its files. Nothing else is written.\n"
-                      "  balances NAME  Prints each account of the ledger NAME, in table order: name, type\n"
-                      "                 and balance as stored, tab-separated, one account a line.\n"
+                      "  recalc NAME    Recalculates every account and the Base Account from the\n"
+                      "                 transactions (reconciled or not) and stores both files.\n"
+                      "  balances NAME  Prints each account, in table order: name, type and balance as\n"
+                      "                 stored, tab-separated, one account a line. Writes nothing.\n"
+                      "  transactions NAME\n"
+                      "                 Prints each transaction: its number ROW, counted from 1, then its\n"
+                      "                 eleven cells after the first, tab-separated. Writes nothing.\n"
+                      "  repeats NAME   Stores both files as they are once opened, as closing the window\n"
+                      "                 does, without recalculating.\n"
+                      "  add NAME OPTIONS [--gst]\n"
+                      "                 The transaction dialog on a new transaction, then OK (or, with\n"
+                      "                 --gst, the GST button).\n"
+                      "  edit NAME ROW [OPTIONS]\n"
+                      "                 The dialog opened on transaction ROW, the options typed over it,\n"
+                      "                 then OK.\n"
+                      "  gst NAME ROW [OPTIONS]\n"
+                      "                 The same, then the GST button (give --adjust: editing leaves the\n"
+                      "                 adjustment empty).\n"
                       "  new-ledger NAME [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Adds the ledger NAME as the \"+\" button does, then gives it its Base\n"
                       "                 Account \"Balance\" as the account dialog's OK does, with AMOUNT in the\n"
                       "                 amount field and TEXT in the notes (else the dialog's hint).\n"
                       "  add-account NAME ACCOUNT [--revenue] [--opening AMOUNT] [--notes TEXT]\n"
-                      "                 Adds the account ACCOUNT to the ledger NAME as the account dialog's\n"
-                      "                 OK does: an expense account unless --revenue is given.\n"
+                      "                 Adds the account ACCOUNT as the account dialog's OK does: an\n"
+                      "                 expense account unless --revenue is given.\n"
                       "  edit-account NAME ACCOUNT [--rename NEWNAME] [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Edits the account ACCOUNT as the account dialog does: its fields as\n"
                       "                 they stand, the options typed over them, then OK. A renamed account\n"
@@ -44,72 +55,112 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] COMMAND\n"
                       "                 Deletes the account ACCOUNT and all of its transactions, as the\n"
                       "                 toolbar's Delete does once the deletion is confirmed.\n"
                       "\n"
-                      "NAME is the ledger's name with or without its two leading blanks; case doesn't matter,\n"
-                      "nor for ACCOUNT. An unknown ledger or account, or an input the window would refuse, is\n"
-                      "reported on stderr with exit status 1, and nothing is written. So is a file that can't\n"
-                      "be read or saved, with the system's reason; a file that couldn't be saved stays as it\n"
-                      "was. A wrong command or option gives this text on stderr with exit status 2.\n"
+                      "OPTIONS of the transaction dialog, applied in this order whatever order they are\n"
+                      "given in:\n"
+                      "  --account A    the account of the menu named A (its type sets Deposit/Withdrawal)\n"
+                      "  --amount X     --deposit or --withdrawal (a click on it)     --adjust Y\n"
+                      "  --description T     --invoice I     --memo M\n"
+                      "  --repeat never|monthly|annually     --date YYYY-MM-DD (else the day of --today)\n"
+                      "\n"
+                      "NAME is the ledger's name with or without its two leading blanks, ACCOUNT an account's;\n"
+                      "case doesn't matter. An unknown ledger, account or ROW, an input the window would\n"
+                      "refuse (OK or the GST button not to be pressed), or a file that can't be read or\n"
+                      "saved is reported on stderr with exit status 1; a refused input writes nothing, and a\n"
+                      "file that couldn't be saved stays as it was. A wrong command or option gives this text\n"
+                      "on stderr with exit status 2.\n"
                       "\n"
                       "Options:\n"
                       "  --data DIR     Use DIR as the application data folder (the folder that holds\n"
                       "                 \"Quillmark\"), instead of the user's own.\n"
+                      "  --today DAY    Take DAY, at noon, as the present: for the repeats and the date a\n"
+                      "                 new transaction starts on.\n"
                       "  -h, --help     Shows this text.\n"_s;
 
-enum class Option { Revenue, Opening, Notes, Rename };
+const QStringList kTransactionOptions{u"account"_s, u"amount"_s, u"deposit"_s, u"withdrawal"_s, u"adjust"_s,
+                                      u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s};
 
 struct Verb {
     QString name;
     int words; // after the verb
-    QList<Option> options;
+    QStringList options;
+    int (*run)(const Invocation&);
 };
 
 const QList<Verb>& verbs()
 {
     static const QList<Verb> all{
-        {u"list"_s, 0, {}},
-        {u"recalc"_s, 1, {}},
-        {u"balances"_s, 1, {}},
-        {u"new-ledger"_s, 1, {Option::Opening, Option::Notes}},
-        {u"add-account"_s, 2, {Option::Revenue, Option::Opening, Option::Notes}},
-        {u"edit-account"_s, 2, {Option::Rename, Option::Opening, Option::Notes}},
-        {u"delete-account"_s, 2, {}},
+        {u"list"_s, 0, {}, &listLedgers},
+        {u"recalc"_s, 1, {}, &recalcLedger},
+        {u"balances"_s, 1, {}, &printBalances},
+        {u"transactions"_s, 1, {}, &printTransactions},
+        {u"repeats"_s, 1, {}, &storeRepeats},
+        {u"add"_s, 1, kTransactionOptions + QStringList{u"gst"_s}, &addTransactionVerb},
+        {u"edit"_s, 2, kTransactionOptions, &editTransactionVerb},
+        {u"gst"_s, 2, kTransactionOptions, &gstVerb},
+        {u"new-ledger"_s, 1, {u"opening"_s, u"notes"_s}, &newLedger},
+        {u"add-account"_s, 2, {u"revenue"_s, u"opening"_s, u"notes"_s}, &addAccountVerb},
+        {u"edit-account"_s, 2, {u"rename"_s, u"opening"_s, u"notes"_s}, &editAccountVerb},
+        {u"delete-account"_s, 2, {}, &deleteAccountVerb},
     };
     return all;
 }
 
-int ledgerRow(const SummaryBooks& books, const QString& name)
+QList<QCommandLineOption> allOptions()
 {
-    const QString wanted = withLedgerPrefix(name);
-    for (int row = 0; row < books.LedgerList.ListCount(); ++row) {
-        if (books.LedgerList.CellView(row, 0).compare(wanted, Qt::CaseInsensitive) == 0)
-            return row;
-    }
-    return -1;
+    QList<QCommandLineOption> options{
+        QCommandLineOption(u"data"_s, u"application data folder"_s, u"DIR"_s),
+        QCommandLineOption(u"today"_s, u"the present day"_s, u"YYYY-MM-DD"_s),
+        QCommandLineOption(QStringList{u"h"_s, u"help"_s}),
+    };
+    for (const QString& flag : {u"revenue"_s, u"deposit"_s, u"withdrawal"_s, u"gst"_s})
+        options << QCommandLineOption(flag);
+    for (const QString& valued : {u"opening"_s, u"notes"_s, u"rename"_s, u"account"_s, u"amount"_s, u"adjust"_s,
+                                  u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s})
+        options << QCommandLineOption(valued, valued, u"TEXT"_s);
+    return options;
 }
 
-int accountRow(const SummaryBooks& books, const QString& name)
+// A day written YYYY-MM-DD that is a real one.
+bool isDay(const QString& text)
 {
-    for (int row = 0; row < books.accountsBox.ListCount(); ++row) {
-        if (books.accountsBox.CellView(row, AccountCol::Name).compare(name, Qt::CaseInsensitive) == 0)
-            return row;
-    }
-    return -1;
+    static const QRegularExpression form(u"^\\d{4}-\\d{2}-\\d{2}$"_s);
+    return form.match(text).hasMatch() && QDate::fromString(text, u"yyyy-MM-dd"_s).isValid();
 }
 
-// Selects the ledger without the events a click would fire, and opens it.
-void openLedger(SummaryBooks& books, int row)
+// What makes the words and options of a verb unusable, or "" when they are fine.
+bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringList& words)
 {
-    {
-        const QSignalBlocker quiet(books.LedgerList);
-        books.LedgerList.SetListIndex(row);
+    if (words.size() != 1 + verb.words)
+        return false;
+    for (const QCommandLineOption& option : allOptions()) {
+        const QString name = option.names().constLast();
+        const bool everywhere = name == u"data" || name == u"today" || name == u"help";
+        if (parser.isSet(name) && !everywhere && !verb.options.contains(name))
+            return false;
     }
-    books.openABook(books.LedgerList.Text());
-    books.theLedger = books.LedgerList.Text();
-    books.showStoredAmountsWithCommas();
+    if (parser.isSet(u"deposit"_s) && parser.isSet(u"withdrawal"_s))
+        return false;
+    if (parser.isSet(u"repeat"_s)) {
+        const QString word = parser.value(u"repeat"_s);
+        if (!std::any_of(kRepeatWords.begin(), kRepeatWords.end(),
+                         [&](const QString& w) { return w.compare(word, Qt::CaseInsensitive) == 0; }))
+            return false;
+    }
+    for (const QString& day : {u"date"_s, u"today"_s})
+        if (parser.isSet(day) && !isDay(parser.value(day)))
+            return false;
+    // ROW, the second word of edit and gst, is a whole number.
+    if ((verb.name == u"edit" || verb.name == u"gst")) {
+        bool number = false;
+        words[2].toInt(&number);
+        if (!number)
+            return false;
+    }
+    return true;
 }
 
-// The messages an operation shows; the command itself is the user's answer
-// "Delete" to a confirmation.
+// What the windows would show goes to the command's caller; the command itself
+// is the user's "Delete" to a confirmation.
 class CommandLineServices {
 public:
     CommandLineServices()
@@ -129,144 +180,101 @@ private:
     BlockingServiceHooks previous;
 };
 
-int refused(QTextStream& err, const QString& problem)
-{
-    err << "quillmark-cli: " << problem << '\n';
-    return 1;
-}
+// The present the command takes: the system's, or noon of the day given.
+class CommandLineClock {
+public:
+    explicit CommandLineClock(const QCommandLineParser& parser)
+    {
+        if (!parser.isSet(u"today"_s))
+            return;
+        const QDateTime noon(QDate::fromString(parser.value(u"today"_s), u"yyyy-MM-dd"_s), QTime(12, 0));
+        previous = Clock::install([noon] { return noon; });
+        installed = true;
+    }
+    ~CommandLineClock()
+    {
+        if (installed)
+            Clock::install(previous);
+    }
+    CommandLineClock(const CommandLineClock&) = delete;
+    CommandLineClock& operator=(const CommandLineClock&) = delete;
 
-} // namespace
+private:
+    std::function<QDateTime()> previous;
+    bool installed = false;
+};
 
-namespace {
-
-int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err, const CommandLineServices& services)
+int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    const QCommandLineOption dataOption(u"data"_s, u"application data folder"_s, u"DIR"_s);
-    const QCommandLineOption helpOption(QStringList{u"h"_s, u"help"_s});
-    const std::map<Option, QCommandLineOption> fieldOptions{
-        {Option::Revenue, QCommandLineOption(u"revenue"_s)},
-        {Option::Opening, QCommandLineOption(u"opening"_s, u"opening amount"_s, u"AMOUNT"_s)},
-        {Option::Notes, QCommandLineOption(u"notes"_s, u"notes"_s, u"TEXT"_s)},
-        {Option::Rename, QCommandLineOption(u"rename"_s, u"new name"_s, u"NEWNAME"_s)},
-    };
-    parser.addOption(dataOption);
-    parser.addOption(helpOption);
-    for (const auto& [_, option] : fieldOptions)
-        parser.addOption(option);
+    parser.addOptions(allOptions());
     if (!parser.parse(arguments)) {
         err << parser.errorText() << "\n\n" << kHelp;
         return 2;
     }
-    if (parser.isSet(helpOption)) {
+    if (parser.isSet(u"help"_s)) {
         out << kHelp;
         return 0;
     }
     const QStringList words = parser.positionalArguments();
-    const QString command = words.value(0);
-    const auto verb = std::find_if(verbs().begin(), verbs().end(), [&](const Verb& v) { return v.name == command; });
-    bool usable = verb != verbs().end() && words.size() == 1 + verb->words;
-    for (const auto& [name, option] : fieldOptions)
-        usable = usable && (!parser.isSet(option) || verb->options.contains(name));
-    if (!usable) {
+    const auto verb = std::find_if(verbs().begin(), verbs().end(),
+                                   [&](const Verb& v) { return v.name == words.value(0); });
+    if (verb == verbs().end() || !usable(parser, *verb, words)) {
         err << kHelp;
         return 2;
     }
-    auto typed = [&](Option option, const QString& otherwise) {
-        return parser.isSet(fieldOptions.at(option)) ? parser.value(fieldOptions.at(option)) : otherwise;
-    };
+    const CommandLineClock clock(parser);
+    const QString dataFolder = parser.isSet(u"data"_s) ? parser.value(u"data"_s) : AppFolders::applicationData();
+    return verb->run(Invocation{parser, words, dataFolder, out, err});
+}
 
-    const QString dataFolder = parser.isSet(dataOption) ? parser.value(dataOption) : AppFolders::applicationData();
-    const bool adding = command == u"new-ledger";
-    AccountFields base = baseAccountFields();
-    base.opening = typed(Option::Opening, base.opening);
-    base.notes = typed(Option::Notes, base.notes);
-    // Checked first: a refused input leaves the data folder as it was.
-    if (const QString problem = accountFieldsProblem(base); adding && !problem.isEmpty())
-        return refused(err, problem);
-    // The first ledger of a new data folder needs the folders the program's start makes.
-    const QString booksFolder = adding ? AppFolders::makeFolders(dataFolder) : AppFolders::existingBooks(dataFolder);
-    if (adding && booksFolder.isEmpty())
-        return refused(err, u"the folder %1 can't be made"_s.arg(AppFolders::books(dataFolder)));
-    SummaryBooks books(booksFolder);
-    books.probeSeparator();
-
-    if (command == u"list") {
-        for (int row = 0; row < books.LedgerList.ListCount(); ++row)
-            out << books.LedgerList.CellView(row, 0) << '\n';
-        return 0;
+int ledgerRow(const SummaryBooks& books, const QString& name)
+{
+    const QString wanted = withLedgerPrefix(name);
+    for (int row = 0; row < books.LedgerList.ListCount(); ++row) {
+        if (books.LedgerList.CellView(row, 0).compare(wanted, Qt::CaseInsensitive) == 0)
+            return row;
     }
-
-    if (adding) {
-        if (!books.addLedger(words[1]))
-            return 1; // its message is told with the others
-        // A ledger whose files were left behind opens with accounts; one is
-        // recalculated, the other gets its Base Account.
-        const bool hasAccounts = books.accountsBox.ListCount() > 0;
-        if (hasAccounts)
-            books.calcAll();
-        books.saveBooks();
-        if (!hasAccounts)
-            books.saveAccount(base, true, -1, {});
-        return 0;
-    }
-
-    const int row = ledgerRow(books, words[1]);
-    if (row < 0) {
-        err << "quillmark-cli: there is no ledger named \"" << words[1] << "\" in "
-            << AppFolders::quillmark(dataFolder) << "/BookList\n";
-        return 1;
-    }
-    openLedger(books, row);
-    if (command == u"recalc") {
-        books.calcAll(); // a fresh window's reconcile box is off: every transaction counts
-        return 0;
-    }
-    if (command == u"balances") {
-        for (int r = 0; r < books.accountsBox.ListCount(); ++r) {
-            out << books.accountsBox.CellView(r, AccountCol::Name) << '\t'
-                << books.accountsBox.CellView(r, AccountCol::Type) << '\t'
-                << books.accountsBox.CellView(r, AccountCol::Balance) << '\n';
-        }
-        return 0;
-    }
-
-    if (command == u"add-account") {
-        const AccountFields fields{words[2], parser.isSet(fieldOptions.at(Option::Revenue)) ? u"Revenue"_s : u"Expense"_s,
-                                   typed(Option::Opening, {}), typed(Option::Notes, {})};
-        if (const QString problem = books.saveAccount(fields, true, -1, {}); !problem.isEmpty())
-            return refused(err, problem);
-        return 0;
-    }
-
-    const int account = accountRow(books, words[2]);
-    if (account < 0)
-        return refused(err, u"there is no account named \"%1\" in the ledger \"%2\""_s.arg(words[2], books.theLedger));
-    books.accountsBox.SetListIndex(account);
-    if (command == u"edit-account") {
-        AccountFields fields = accountFieldsOf(books.accountsBox, account);
-        const QString oldName = fields.name;
-        fields.name = typed(Option::Rename, fields.name);
-        fields.opening = typed(Option::Opening, fields.opening);
-        fields.notes = typed(Option::Notes, fields.notes);
-        // Typing a name, even the same one, makes the dialog check it.
-        const bool nameTyped = parser.isSet(fieldOptions.at(Option::Rename));
-        if (const QString problem = books.saveAccount(fields, nameTyped, account, oldName); !problem.isEmpty())
-            return refused(err, problem);
-        return 0;
-    }
-    // delete-account: a refusal is a message
-    books.deleteSelectedAccount();
-    return services.shown.isEmpty() ? 0 : 1;
+    return -1;
 }
 
 } // namespace
 
+int refused(const Invocation& call, const QString& problem)
+{
+    call.err << "quillmark-cli: " << problem << '\n';
+    return 1;
+}
+
+OpenLedger::OpenLedger(const Invocation& call)
+    : books(AppFolders::existingBooks(call.dataFolder))
+{
+    books.probeSeparator();
+    const int row = ledgerRow(books, call.words[1]);
+    if (row < 0) {
+        refused(call, u"there is no ledger named \"%1\" in %2/BookList"_s.arg(call.words[1],
+                                                                                 AppFolders::quillmark(call.dataFolder)));
+        return;
+    }
+    books.LedgerList.SetListIndex(row);
+    open = true;
+}
+
+int transactionRow(const Invocation& call, const SummaryBooks& books, const QString& row)
+{
+    const int index = row.toInt() - 1;
+    if (index < 0 || index >= books.transBox.ListCount()) {
+        refused(call, u"there is no transaction %1 in the ledger \"%2\""_s.arg(row, books.theLedger));
+        return -1;
+    }
+    return index;
+}
+
 int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& err)
 {
     const CommandLineServices services;
-    int status = runVerb(arguments, out, err, services);
+    int status = runVerb(arguments, out, err);
     // What the windows would show (a refusal, a file that couldn't be read or
     // saved) goes to stderr, and the command has failed.
     for (const QString& message : services.shown)

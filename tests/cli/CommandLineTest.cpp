@@ -52,7 +52,8 @@ protected:
     }
 
     QString book(const QString& name) const { return home.books() + u'/' + name; }
-    QStringList data() const { return {u"--data"_s, home.path()}; }
+    // The data folder, on a day before the monthly row falls due.
+    QStringList data() const { return {u"--data"_s, home.path(), u"--today"_s, u"2014-03-31"_s}; }
 
     TempDataHome home;
 };

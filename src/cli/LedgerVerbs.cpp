@@ -1,0 +1,59 @@
+// The verbs on a ledger as a whole: list, recalc, balances, transactions, repeats.
+#include "cli/Verbs.h"
+
+#include "books/AppFolders.h"
+#include "engine/RowLayouts.h"
+
+int listLedgers(const Invocation& call)
+{
+    SummaryBooks books(AppFolders::existingBooks(call.dataFolder));
+    for (int row = 0; row < books.LedgerList.ListCount(); ++row)
+        call.out << books.LedgerList.CellView(row, 0) << '\n';
+    return 0;
+}
+
+int recalcLedger(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    ledger.books.calcAll(); // a fresh window's reconcile box is off: every transaction counts
+    return 0;
+}
+
+int printBalances(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    const Listbox& accounts = ledger.books.accountsBox;
+    for (int row = 0; row < accounts.ListCount(); ++row) {
+        call.out << accounts.CellView(row, AccountCol::Name) << '\t' << accounts.CellView(row, AccountCol::Type) << '\t'
+                 << accounts.CellView(row, AccountCol::Balance) << '\n';
+    }
+    return 0;
+}
+
+int printTransactions(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    const Listbox& transactions = ledger.books.transBox;
+    for (int row = 0; row < transactions.ListCount(); ++row) {
+        call.out << row + 1;
+        for (int column = TransCol::Account; column < TransCol::Count; ++column)
+            call.out << '\t' << transactions.CellView(row, column);
+        call.out << '\n';
+    }
+    return 0;
+}
+
+int storeRepeats(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    ledger.books.saveOpenLedger(); // as the window stores its ledger on closing
+    return 0;
+}

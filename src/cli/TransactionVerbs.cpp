@@ -1,0 +1,120 @@
+// The verbs of the transaction dialog: add, edit, gst.
+#include "cli/Verbs.h"
+
+#include "engine/TransactionEntry.h"
+#include "platform/Clock.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The options typed into the dialog, in the dialog's order; false (refusal
+// printed) for an account that the menu doesn't offer.
+bool typeOptions(const Invocation& call, const SummaryBooks& books, TransactionForm& form)
+{
+    if (call.isSet(u"account"_s)) {
+        const int item = accountMenuItem(books.accountsBox, call.value(u"account"_s));
+        if (item == 0) {
+            refused(call, u"the account menu has no account \"%1\""_s.arg(call.value(u"account"_s)));
+            return false;
+        }
+        chooseAccount(form, books.accountsBox, item);
+    }
+    if (call.isSet(u"amount"_s))
+        form.amount = call.value(u"amount"_s);
+    if (call.isSet(u"deposit"_s))
+        chooseDeposit(form);
+    if (call.isSet(u"withdrawal"_s))
+        form.deposit = false;
+    if (call.isSet(u"adjust"_s))
+        form.adjustment = call.value(u"adjust"_s);
+    if (call.isSet(u"description"_s))
+        form.description = call.value(u"description"_s);
+    if (call.isSet(u"invoice"_s))
+        form.invoice = call.value(u"invoice"_s);
+    if (call.isSet(u"memo"_s))
+        form.memo = call.value(u"memo"_s);
+    if (call.isSet(u"repeat"_s)) {
+        const QString word = call.value(u"repeat"_s);
+        for (const QString& item : kRepeatWords)
+            if (item.compare(word, Qt::CaseInsensitive) == 0)
+                form.repeat = item;
+    }
+    if (call.isSet(u"date"_s))
+        form.date = QDate::fromString(call.value(u"date"_s), u"yyyy-MM-dd"_s);
+    return true;
+}
+
+// The dialog as it opens: the calendar on today.
+TransactionForm newForm()
+{
+    TransactionForm form;
+    form.date = Clock::today();
+    return form;
+}
+
+// edit and gst: the dialog opened on ROW as the main window opens it, the
+// options typed over it; the button's condition checked before anything is
+// stored. Returns the row, or -1 after a refusal.
+int openForEditing(const Invocation& call, SummaryBooks& books, TransactionForm& form, bool gst)
+{
+    const int row = transactionRow(call, books, call.words[2]);
+    if (row < 0)
+        return -1;
+    books.transBox.SetListIndex(row);
+    fillFromTransaction(form, books.transBox, row, books.accountsBox);
+    if (!typeOptions(call, books, form))
+        return -1;
+    if (gst ? !gstEnabled(form) : !okEnabled(form)) {
+        refused(call, gst ? u"the GST button needs an amount, an adjustment and a withdrawal"_s
+                          : u"OK can't be pressed: it needs an account and an amount"_s);
+        return -1;
+    }
+    books.storeTransactions(); // opening the row for editing stores transBox
+    return row;
+}
+
+} // namespace
+
+int addTransactionVerb(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    TransactionForm form = newForm();
+    if (!typeOptions(call, ledger.books, form))
+        return 1;
+    const bool gst = call.isSet(u"gst"_s);
+    if (gst ? !gstEnabled(form) : !okEnabled(form))
+        return refused(call, gst ? u"the GST button needs an amount, an adjustment and a withdrawal"_s
+                                 : u"OK can't be pressed: it needs an account and an amount"_s);
+    ledger.books.editAddTransaction(form, false);
+    if (gst)
+        ledger.books.doGST(form);
+    return 0;
+}
+
+int editTransactionVerb(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    TransactionForm form = newForm();
+    if (openForEditing(call, ledger.books, form, false) < 0)
+        return 1;
+    ledger.books.editAddTransaction(form, true);
+    return 0;
+}
+
+int gstVerb(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    TransactionForm form = newForm();
+    if (openForEditing(call, ledger.books, form, true) < 0)
+        return 1;
+    ledger.books.editAddTransaction(form, true);
+    ledger.books.doGST(form);
+    return 0;
+}

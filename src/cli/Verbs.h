@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ledger/SummaryBooks.h"
+
+#include <QCommandLineParser>
+#include <QStringList>
+#include <QTextStream>
+
+// The verbs of quillmark-cli, each the same calls of the books that a window
+// makes. A verb returns the exit status: 0 done, 1 refused (one line on
+// stderr, nothing written).
+
+// One run of the command line: the verb's words (the verb first), its options,
+// the data folder, and where it prints.
+struct Invocation {
+    const QCommandLineParser& parser;
+    QStringList words;
+    QString dataFolder;
+    QTextStream& out;
+    QTextStream& err;
+
+    bool isSet(const QString& option) const { return parser.isSet(option); }
+    QString value(const QString& option) const { return parser.value(option); }
+};
+
+// Prints why an input is refused, and gives the status for it.
+int refused(const Invocation& call, const QString& problem);
+
+// The books of the data folder with the ledger named by the verb's first word
+// open, as a click on its row opens it (its repeat pass included). When there
+// is no such ledger, `open` is false and the refusal is printed.
+class OpenLedger {
+public:
+    explicit OpenLedger(const Invocation& call);
+    SummaryBooks books;
+    bool open = false;
+};
+
+// A transBox row given as ROW, counted from 1, or -1 (refusal printed) when the
+// table has none such. ROW is a number: that was checked with the options.
+int transactionRow(const Invocation& call, const SummaryBooks& books, const QString& row);
+
+int listLedgers(const Invocation& call);
+int recalcLedger(const Invocation& call);
+int printBalances(const Invocation& call);
+int storeRepeats(const Invocation& call);
+int printTransactions(const Invocation& call);
+
+int newLedger(const Invocation& call);
+int addAccountVerb(const Invocation& call);
+int editAccountVerb(const Invocation& call);
+int deleteAccountVerb(const Invocation& call);
+
+int addTransactionVerb(const Invocation& call);
+int editTransactionVerb(const Invocation& call);
+int gstVerb(const Invocation& call);
