@@ -220,3 +220,101 @@ TEST_F(CommandLineTest, AFileThatCantBeSavedIsPrintedWithExitOneAndStaysAsItWas)
     EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), many);
     EXPECT_EQ(QDir(home.books()).entryList(QDir::Files).size(), 2) << "nothing left beside the files";
 }
+
+TEST_F(CommandLineTest, TransactionVerbsDoWhatTheDialogDoes)
+{
+    const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
+    const QByteArray transactions = readBytes(book(u"  ShopTransData"_s));
+    CliRun run = runCli(data() << u"transactions"_s << u"shop"_s);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, u"1\tsales\t2014-03-09\tSale\t\t12.5\t\t12.50\t\t\tfalse\tNever\n"
+                       "2\tRent\t2014-03-10\tMarch\t\t-40\t\t-40,00\t\t\ttrue\tMonthly\n");
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions) << "printing writes nothing";
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), accounts);
+
+    // The options go in in the dialog's order, whatever order they come in.
+    run = runCli(data() << u"add"_s << u"Shop"_s << u"--description"_s << u"Lease"_s << u"--repeat"_s << u"ANNUALLY"_s
+                        << u"--amount"_s << u"100"_s << u"--account"_s << u"rent"_s << u"--adjust"_s << u"5"_s
+                        << u"--date"_s << u"2014-03-20"_s << u"--invoice"_s << u"I9"_s << u"--memo"_s << u"M"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s))
+                    .endsWith("\n@#@Rent@#@2014-03-20@#@Lease@#@I9@#@-100@#@5@#@-105.00@#@3478118400@#@M@#@@#@Annually@#@\n"));
+
+    // Editing row 1 of the revenue account: Deposit by its type, the amount typed over.
+    run = runCli(data() << u"edit"_s << u"Shop"_s << u"1"_s << u"--amount"_s << u"20"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).startsWith("@#@Sales@#@2014-03-09@#@Sale@#@@#@20@#@@#@20.00@#@"));
+
+    // The GST button on row 2: the stored comma total becomes the amount.
+    run = runCli(data() << u"gst"_s << u"Shop"_s << u"2"_s << u"--adjust"_s << u"3"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    run = runCli(data() << u"transactions"_s << u"Shop"_s);
+    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_TRUE(lines[1].startsWith(u"2\tRent\t2014-03-10\tMarch\t\t-40.00\t3\t-43.00\t"));
+    EXPECT_TRUE(lines[3].startsWith(u"4\tGST\t2014-03-10\tMarch\t\t\t\t\t3477254400\t")) << "no amounts";
+
+    // The GST button needs no account.
+    run = runCli(data() << u"add"_s << u"Shop"_s << u"--amount"_s << u"9"_s << u"--adjust"_s << u"1"_s << u"--gst"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).contains("\n@#@Select account@#@2014-03-31@#@@#@@#@-9@#@1@#@-10.00@#@"));
+}
+
+TEST_F(CommandLineTest, RepeatsStoresThePassOfTheOpeningOnly)
+{
+    const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
+    const CliRun run = runCli({u"--data"_s, home.path(), u"--today"_s, u"2014-06-01"_s, u"repeats"_s, u"Shop"_s});
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)),
+              QByteArray("@#@sales@#@2014-03-09@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@false@#@Never@#@\n"
+                         "@#@Rent@#@2014-03-10@#@March@#@@#@-40@#@@#@-40,00@#@@#@@#@true@#@never@#@\n"
+                         "@#@Rent@#@2014-04-10@#@March@#@@#@-40@#@@#@-40,00@#@@#@@#@true@#@Monthly@#@\n"))
+        << "one step, and no calculation";
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), accounts);
+}
+
+TEST_F(CommandLineTest, RefusedTransactionInputsWriteNothing)
+{
+    auto files = [this] {
+        return std::pair{readBytes(book(u"  ShopAccountData"_s)), readBytes(book(u"  ShopTransData"_s))};
+    };
+    const auto before = files();
+    const QList<QStringList> refusals{
+        {u"add"_s, u"Garden"_s, u"--account"_s, u"Rent"_s, u"--amount"_s, u"1"_s},
+        {u"add"_s, u"Shop"_s, u"--account"_s, u"Balance"_s, u"--amount"_s, u"1"_s}, // not in the menu
+        {u"add"_s, u"Shop"_s, u"--account"_s, u"Rent"_s},                           // no amount: no OK
+        {u"add"_s, u"Shop"_s, u"--amount"_s, u"1"_s},                                 // no account: no OK
+        {u"add"_s, u"Shop"_s, u"--account"_s, u"Rent"_s, u"--amount"_s, u"1"_s, u"--gst"_s}, // no adjustment
+        {u"add"_s, u"Shop"_s, u"--amount"_s, u"1"_s, u"--adjust"_s, u"1"_s, u"--deposit"_s, u"--gst"_s},
+        {u"edit"_s, u"Shop"_s, u"0"_s},
+        {u"edit"_s, u"Shop"_s, u"3"_s},
+        {u"gst"_s, u"Shop"_s, u"2"_s}, // editing leaves the adjustment empty
+    };
+    for (const QStringList& arguments : refusals) {
+        const CliRun run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, 1) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(run.err.count(u'\n'), 1) << arguments.join(u' ').toStdString() << ": " << run.err.toStdString();
+    }
+    const QList<QStringList> misuses{
+        {u"post"_s, u"Shop"_s},
+        {u"add"_s, u"Shop"_s, u"--colour"_s, u"red"_s},
+        {u"add"_s, u"Shop"_s, u"--deposit"_s, u"--withdrawal"_s},
+        {u"add"_s, u"Shop"_s, u"--repeat"_s, u"weekly"_s},
+        {u"add"_s, u"Shop"_s, u"--date"_s, u"2014-02-30"_s},
+        {u"add"_s, u"Shop"_s, u"--date"_s, u"30.3.2014"_s},
+        {u"edit"_s, u"Shop"_s, u"first"_s},
+        {u"transactions"_s, u"Shop"_s, u"--amount"_s, u"5"_s},
+        {u"--today"_s, u"2014-13-01"_s, u"list"_s},
+    };
+    for (const QStringList& arguments : misuses) {
+        const CliRun run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, 2) << arguments.join(u' ').toStdString();
+        EXPECT_TRUE(run.err.contains(u"Usage: quillmark-cli"_s));
+    }
+    EXPECT_EQ(files(), before);
+
+    const QString help = runCli({u"--help"_s}).out;
+    for (const QString& verb : {u"transactions NAME"_s, u"repeats NAME"_s, u"add NAME OPTIONS"_s, u"edit NAME ROW"_s,
+                                u"gst NAME ROW"_s, u"--today"_s})
+        EXPECT_TRUE(help.contains(verb)) << verb.toStdString();
+}
