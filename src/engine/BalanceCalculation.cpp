@@ -8,6 +8,13 @@
 
 #include <vector>
 
+namespace {
+
+// How many rows ahead a pass over the transactions fetches the cells it reads.
+constexpr int kAhead = 16;
+
+} // namespace
+
 BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, bool reconciledOnly)
 {
     const int lastAccount = accounts.ListCount() - 1;
@@ -24,6 +31,8 @@ BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, 
     {
         AccountIndex index(accounts);
         for (int t = 0; t < transactions.ListCount(); ++t) {
+            transactions.prefetchCell(t + kAhead, TransCol::Account);
+            transactions.prefetchCell(t + kAhead, TransCol::Transaction);
             if (reconciledOnly && !transactions.CellCheck(t, TransCol::Account))
                 continue;
             const double amount = readAmount(transactions.CellView(t, TransCol::Transaction));
@@ -50,6 +59,7 @@ BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, 
 void writeSeconds(Listbox& transactions)
 {
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        transactions.prefetchCell(t + kAhead, TransCol::Date);
         QDate date;
         if (!ParseDate(transactions.CellView(t, TransCol::Date), date))
             continue;
@@ -128,6 +138,7 @@ void padAmounts(Listbox& accounts, Listbox& transactions)
     // Trimming every total and then padding every total is the same, row by row,
     // as one pass that does both.
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        transactions.prefetchCell(t + kAhead, TransCol::Transaction);
         const QStringView cell = transactions.CellView(t, TransCol::Transaction);
         if (hasOuterBlanks(cell))
             transactions.SetCell(t, TransCol::Transaction, cell.trimmed().toString());
@@ -150,6 +161,7 @@ void showDecimalCommas(Listbox& accounts, Listbox& transactions)
             accounts.SetCell(r, column, cmm(accounts.CellView(r, column)));
     }
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        transactions.prefetchCell(t + kAhead, TransCol::Transaction);
         const QStringView cell = transactions.CellView(t, TransCol::Transaction);
         if (cell.contains(u'.'))
             transactions.SetCell(t, TransCol::Transaction, cmm(cell));

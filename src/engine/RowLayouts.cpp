@@ -2,6 +2,8 @@
 
 #include "books/rowtable/Listbox.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,7 +36,17 @@ constexpr double None = -1;
 
 bool isWord(QStringView cell, QStringView word)
 {
-    return cell.compare(word, Qt::CaseInsensitive) == 0;
+    // The cells are mostly ASCII words, read in every row of a pass; comparing
+    // those by hand spares Qt's Unicode case folding, which takes the rest.
+    const auto ascii = [](QStringView text) {
+        return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    };
+    if (!ascii(cell) || !ascii(word))
+        return cell.compare(word, Qt::CaseInsensitive) == 0;
+    const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
+    return cell.size() == word.size()
+        && std::equal(cell.begin(), cell.end(), word.begin(),
+                      [&](QChar a, QChar b) { return lower(a.unicode()) == lower(b.unicode()); });
 }
 
 void setUpLedgerList(Listbox& table)

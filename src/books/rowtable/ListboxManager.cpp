@@ -61,6 +61,7 @@ FileProblem ListboxManager::saveListBox(const Listbox& table, const QString& fil
     QByteArray buffer(kChunk, Qt::Uninitialized);
     char* out = buffer.data();
     for (int row = 0; row < table.ListCount(); ++row) {
+        table.prefetchCell(row + 16, 0);
         const QStringView line = table.storedLine(row);
         const qsizetype needed = encoder.requiredSpace(line.size()) + 1;
         if (out - buffer.data() + needed > buffer.size()) {
