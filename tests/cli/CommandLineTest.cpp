@@ -254,6 +254,24 @@ TEST_F(CommandLineTest, TransactionVerbsDoWhatTheDialogDoes)
     EXPECT_TRUE(lines[1].startsWith(u"2\tRent\t2014-03-10\tMarch\t\t-40.00\t3\t-43.00\t"));
     EXPECT_TRUE(lines[3].startsWith(u"4\tGST\t2014-03-10\tMarch\t\t\t\t\t3477254400\t")) << "no amounts";
 
+    // Any text is stored as typed and counts by what Val reads of it; no other
+    // row changes but for its seconds, which every calculation writes.
+    auto rowsWithoutSeconds = [this] {
+        QStringList rows = runCli(data() << u"transactions"_s << u"Shop"_s).out.split(u'\n', Qt::SkipEmptyParts);
+        for (QString& row : rows) {
+            QStringList cells = row.split(u'\t');
+            cells.removeAt(8);
+            row = cells.join(u'\t');
+        }
+        return rows;
+    };
+    const QStringList rowsBefore = rowsWithoutSeconds();
+    run = runCli(data() << u"add"_s << u"Shop"_s << u"--account"_s << u"Rent"_s << u"--amount"_s << u"x1,5"_s
+                        << u"--adjust"_s << u"\u00e9@"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(rowsWithoutSeconds(), rowsBefore + QStringList{u"%1\tRent\t2014-03-31\t\t\t-x1.5\t\u00e9@\t-0.00\t\t\tNever"_s.arg(
+                                                 rowsBefore.size() + 1)});
+
     // The GST button needs no account.
     run = runCli(data() << u"add"_s << u"Shop"_s << u"--amount"_s << u"9"_s << u"--adjust"_s << u"1"_s << u"--gst"_s);
     EXPECT_EQ(run.status, 0) << run.err.toStdString();
