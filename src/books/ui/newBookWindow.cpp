@@ -14,20 +14,14 @@ newBookWindow::newBookWindow(SummaryBooks& books, QWidget* parent)
     : QDialog(parent)
     , books_(books)
 {
-    setObjectName(u"newBookWindow"_s);
-    setWindowTitle(u"New Ledger"_s);
-    setWindowModality(Qt::WindowModal);
-    setFixedSize(300, 102);
+    makeSheet(*this, u"newBookWindow"_s, u"New Ledger"_s, QSize(300, 102));
 
     StaticText1 = new QLabel(u"New Ledger Name:"_s, this);
-    EditField1 = new QLineEdit(this);
-    EditField1->setObjectName(u"EditField1"_s);
-    PushButton1 = new QPushButton(u"OK"_s, this);
-    PushButton1->setObjectName(u"PushButton1"_s);
+    EditField1 = named(new QLineEdit(this), u"EditField1"_s);
+    PushButton1 = named(new QPushButton(u"OK"_s, this), u"PushButton1"_s);
     PushButton1->setDefault(true);
     PushButton1->setEnabled(false);
-    PushButton2 = new QPushButton(u"Cancel"_s, this);
-    PushButton2->setObjectName(u"PushButton2"_s);
+    PushButton2 = named(new QPushButton(u"Cancel"_s, this), u"PushButton2"_s);
 
     layOutOneFieldDialog(*this, StaticText1, EditField1, PushButton1, PushButton2);
 

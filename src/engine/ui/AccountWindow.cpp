@@ -4,6 +4,7 @@
 #include "engine/RowLayouts.h"
 #include "ledger/SummaryBooks.h"
 #include "platform/BlockingServices.h"
+#include "platform/ui/DialogLayout.h"
 #include "widgets/Canvas.h"
 
 #include <QGridLayout>
@@ -27,15 +28,7 @@ AccountWindow::AccountWindow(SummaryBooks& books, QWidget* parent)
     : QDialog(parent)
     , books_(books)
 {
-    setObjectName(u"AccountWindow"_s);
-    setWindowTitle(u"Account Information"_s);
-    setWindowModality(Qt::WindowModal);
-    setFixedSize(409, 297);
-
-    auto named = [](auto* widget, const QString& name) {
-        widget->setObjectName(name);
-        return widget;
-    };
+    makeSheet(*this, u"AccountWindow"_s, u"Account Information"_s, QSize(409, 297));
     StaticText1 = named(new QLabel(u"Account Name:"_s, this), u"StaticText1"_s);
     EditField1 = named(new QLineEdit(this), u"EditField1"_s);
     StaticText3 = named(new QLabel(u"Account Type:"_s, this), u"StaticText3"_s);

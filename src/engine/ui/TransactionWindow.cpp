@@ -1,6 +1,7 @@
 #include "engine/ui/TransactionWindow.h"
 
 #include "ledger/SummaryBooks.h"
+#include "platform/ui/DialogLayout.h"
 #include "widgets/AutoButton.h"
 #include "widgets/CalendarControl.h"
 
@@ -21,13 +22,6 @@ constexpr int kLabelWidth = 124;
 constexpr int kFieldLeft = 310;
 constexpr int kFieldWidth = 195;
 constexpr int kLineHeight = 24;
-
-template <typename W>
-W* named(W* widget, const QString& name)
-{
-    widget->setObjectName(name);
-    return widget;
-}
 
 QLabel* fieldLabel(QWidget* parent, const QString& name, const QString& text, int top)
 {
@@ -56,10 +50,7 @@ TransactionWindow::TransactionWindow(SummaryBooks& books, QWidget* parent)
     : QDialog(parent)
     , books_(books)
 {
-    setObjectName(u"TransactionWindow"_s);
-    setWindowTitle(u"Transaction"_s);
-    setWindowModality(Qt::WindowModal);
-    setFixedSize(520, 305);
+    makeSheet(*this, u"TransactionWindow"_s, u"Transaction"_s, QSize(520, 305));
 
     Canvas1 = named(new AutoButton(this), u"Canvas1"_s);
     Canvas1->setGeometry(62, 28, 67, 68);

@@ -18,3 +18,11 @@ void layOutOneFieldDialog(QDialog& dialog, QLabel* label, QLineEdit* field, QPus
     buttons->addWidget(ok);
     layout->addLayout(buttons, 1, 0, 1, 2);
 }
+
+void makeSheet(QDialog& dialog, const QString& name, const QString& title, QSize size)
+{
+    dialog.setObjectName(name);
+    dialog.setWindowTitle(title);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setFixedSize(size);
+}
