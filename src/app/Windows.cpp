@@ -6,6 +6,7 @@
 #include "books/ui/newBookWindow.h"
 #include "engine/ui/AccountWindow.h"
 #include "engine/ui/TransactionWindow.h"
+#include "engine/ui/transferWindow.h"
 #include "mainwindow/SummaryWindow.h"
 #include "update/ui/AboutWindow.h"
 
@@ -48,6 +49,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
         auto* window = new ::SummaryWindow(SummaryDialogs{
             .AccountWindow = &Windows::AccountWindow,
             .TransactionWindow = &Windows::TransactionWindow,
+            .transferWindow = &Windows::transferWindow,
             .newBookWindow = &Windows::newBookWindow,
         });
         App::AddMenuHandlers(*window->menuBar());
@@ -70,6 +72,15 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         ::SummaryWindow* summary = Windows::SummaryWindow();
         return new ::TransactionWindow(summary->books(), summary);
+    });
+}
+
+::transferWindow* Windows::transferWindow()
+{
+    static QPointer<::transferWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        return new ::transferWindow(summary->books(), summary);
     });
 }
 

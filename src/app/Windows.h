@@ -12,6 +12,7 @@ class AboutWindow;
 class PrefsWindow;
 class AccountWindow;
 class TransactionWindow;
+class transferWindow;
 
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
@@ -41,4 +42,5 @@ namespace Windows {
 ::PrefsWindow* PrefsWindow();
 ::AccountWindow* AccountWindow();
 ::TransactionWindow* TransactionWindow();
+::transferWindow* transferWindow();
 } // namespace Windows

@@ -40,6 +40,21 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] C
                       "  gst NAME ROW [OPTIONS]\n"
                       "                 The same, then the GST button (give --adjust: editing leaves the\n"
                       "                 adjustment empty).\n"
+                      "  find NAME TEXT Selects the transactions that hold TEXT in any cell, hidden ones\n"
+                      "                 included, ignoring case; prints them as transactions does. Writes\n"
+                      "                 nothing.\n"
+                      "  delete NAME ROW...\n"
+                      "                 Selects those transactions and deletes them as the delete button\n"
+                      "                 does once the deletion is confirmed.\n"
+                      "  reconcile NAME ROW... [--off]\n"
+                      "                 A click on each row's reconcile box, so that it is checked (cleared\n"
+                      "                 with --off); only the transactions are stored.\n"
+                      "  balances NAME --reconciled\n"
+                      "                 Turns reconcile mode on and recalculates, storing the figures of\n"
+                      "                 the reconciled transactions only, then prints them.\n"
+                      "  transfer NAME --from A --to B --amount X [--date YYYY-MM-DD]\n"
+                      "                 The transfer window's OK: X from account A to account B. Neither\n"
+                      "                 may be the Base Account or both the same account; X must be above 0.\n"
                       "  new-ledger NAME [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Adds the ledger NAME as the \"+\" button does, then gives it its Base\n"
                       "                 Account \"Balance\" as the account dialog's OK does, with AMOUNT in the\n"
@@ -63,11 +78,13 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] C
                       "  --repeat never|monthly|annually     --date YYYY-MM-DD (else the day of --today)\n"
                       "\n"
                       "NAME is the ledger's name with or without its two leading blanks, ACCOUNT an account's;\n"
-                      "case doesn't matter. An unknown ledger, account or ROW, an input the window would\n"
-                      "refuse (OK or the GST button not to be pressed), or a file that can't be read or\n"
-                      "saved is reported on stderr with exit status 1; a refused input writes nothing, and a\n"
-                      "file that couldn't be saved stays as it was. A wrong command or option gives this text\n"
-                      "on stderr with exit status 2.\n"
+                      "case doesn't matter. ROW counts the transactions from 1, as transactions prints them;\n"
+                      "one ROW out of range refuses the whole list. An unknown ledger, account or ROW, an input\n"
+                      "the window would refuse (OK or the GST button not to be pressed, a transfer's Base\n"
+                      "Account, same account or amount not above 0), or a file that can't be read or saved is\n"
+                      "reported on stderr with exit status 1; a refused input writes nothing, and a file that\n"
+                      "couldn't be saved stays as it was. A wrong command or option gives this text on stderr\n"
+                      "with exit status 2.\n"
                       "\n"
                       "Options:\n"
                       "  --data DIR     Use DIR as the application data folder (the folder that holds\n"
@@ -81,7 +98,7 @@ const QStringList kTransactionOptions{u"account"_s, u"amount"_s, u"deposit"_s, u
 
 struct Verb {
     QString name;
-    int words; // after the verb
+    int words; // after the verb; -n: n or more
     QStringList options;
     int (*run)(const Invocation&);
 };
@@ -91,7 +108,7 @@ const QList<Verb>& verbs()
     static const QList<Verb> all{
         {u"list"_s, 0, {}, &listLedgers},
         {u"recalc"_s, 1, {}, &recalcLedger},
-        {u"balances"_s, 1, {}, &printBalances},
+        {u"balances"_s, 1, {u"reconciled"_s}, &printBalances},
         {u"transactions"_s, 1, {}, &printTransactions},
         {u"repeats"_s, 1, {}, &storeRepeats},
         {u"add"_s, 1, kTransactionOptions + QStringList{u"gst"_s}, &addTransactionVerb},
@@ -101,6 +118,10 @@ const QList<Verb>& verbs()
         {u"add-account"_s, 2, {u"revenue"_s, u"opening"_s, u"notes"_s}, &addAccountVerb},
         {u"edit-account"_s, 2, {u"rename"_s, u"opening"_s, u"notes"_s}, &editAccountVerb},
         {u"delete-account"_s, 2, {}, &deleteAccountVerb},
+        {u"find"_s, 2, {}, &findVerb},
+        {u"delete"_s, -2, {}, &deleteTransactionsVerb},
+        {u"reconcile"_s, -2, {u"off"_s}, &reconcileVerb},
+        {u"transfer"_s, 1, {u"from"_s, u"to"_s, u"amount"_s, u"date"_s}, &transferVerb},
     };
     return all;
 }
@@ -112,10 +133,11 @@ QList<QCommandLineOption> allOptions()
         QCommandLineOption(u"today"_s, u"the present day"_s, u"YYYY-MM-DD"_s),
         QCommandLineOption(QStringList{u"h"_s, u"help"_s}),
     };
-    for (const QString& flag : {u"revenue"_s, u"deposit"_s, u"withdrawal"_s, u"gst"_s})
+    for (const QString& flag : {u"revenue"_s, u"deposit"_s, u"withdrawal"_s, u"gst"_s, u"off"_s, u"reconciled"_s})
         options << QCommandLineOption(flag);
     for (const QString& valued : {u"opening"_s, u"notes"_s, u"rename"_s, u"account"_s, u"amount"_s, u"adjust"_s,
-                                  u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s})
+                                  u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s, u"from"_s,
+                                  u"to"_s})
         options << QCommandLineOption(valued, valued, u"TEXT"_s);
     return options;
 }
@@ -130,7 +152,7 @@ bool isDay(const QString& text)
 // What makes the words and options of a verb unusable, or "" when they are fine.
 bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringList& words)
 {
-    if (words.size() != 1 + verb.words)
+    if (verb.words >= 0 ? words.size() != 1 + verb.words : words.size() < 1 - verb.words)
         return false;
     for (const QCommandLineOption& option : allOptions()) {
         const QString name = option.names().constLast();
@@ -149,13 +171,17 @@ bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringLis
     for (const QString& day : {u"date"_s, u"today"_s})
         if (parser.isSet(day) && !isDay(parser.value(day)))
             return false;
-    // ROW, the second word of edit and gst, is a whole number.
-    if ((verb.name == u"edit" || verb.name == u"gst")) {
+    // ROW, after the ledger's name of edit, gst, delete and reconcile, is a whole number.
+    const bool rows = verb.name == u"edit" || verb.name == u"gst" || verb.name == u"delete" || verb.name == u"reconcile";
+    for (qsizetype word = 2; rows && word < words.size(); ++word) {
         bool number = false;
-        words[2].toInt(&number);
+        words[word].toInt(&number);
         if (!number)
             return false;
     }
+    // A transfer names both its accounts and its amount.
+    if (verb.name == u"transfer" && !(parser.isSet(u"from"_s) && parser.isSet(u"to"_s) && parser.isSet(u"amount"_s)))
+        return false;
     return true;
 }
 

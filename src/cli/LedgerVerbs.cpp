@@ -26,6 +26,10 @@ int printBalances(const Invocation& call)
     OpenLedger ledger(call);
     if (!ledger.open)
         return 1;
+    if (call.isSet(QStringLiteral("reconciled"))) {
+        ledger.books.reconcilecheckbox_Action(true);
+        ledger.books.calcAll();
+    }
     const Listbox& accounts = ledger.books.accountsBox;
     for (int row = 0; row < accounts.ListCount(); ++row) {
         call.out << accounts.CellView(row, AccountCol::Name) << '\t' << accounts.CellView(row, AccountCol::Type) << '\t'
@@ -39,14 +43,17 @@ int printTransactions(const Invocation& call)
     OpenLedger ledger(call);
     if (!ledger.open)
         return 1;
-    const Listbox& transactions = ledger.books.transBox;
-    for (int row = 0; row < transactions.ListCount(); ++row) {
-        call.out << row + 1;
-        for (int column = TransCol::Account; column < TransCol::Count; ++column)
-            call.out << '\t' << transactions.CellView(row, column);
-        call.out << '\n';
-    }
+    for (int row = 0; row < ledger.books.transBox.ListCount(); ++row)
+        printTransaction(call, ledger.books.transBox, row);
     return 0;
+}
+
+void printTransaction(const Invocation& call, const Listbox& transactions, int row)
+{
+    call.out << row + 1;
+    for (int column = TransCol::Account; column < TransCol::Count; ++column)
+        call.out << '\t' << transactions.CellView(row, column);
+    call.out << '\n';
 }
 
 int storeRepeats(const Invocation& call)

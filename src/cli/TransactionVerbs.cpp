@@ -1,8 +1,11 @@
 // The verbs of the transaction dialog: add, edit, gst.
 #include "cli/Verbs.h"
 
+#include "engine/RowLayouts.h"
 #include "engine/TransactionEntry.h"
+#include "engine/Transfers.h"
 #include "platform/Clock.h"
+#include "platform/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -116,5 +119,34 @@ int gstVerb(const Invocation& call)
         return 1;
     ledger.books.editAddTransaction(form, true);
     ledger.books.doGST(form);
+    return 0;
+}
+
+int transferVerb(const Invocation& call)
+{
+    OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    const Listbox& accounts = ledger.books.accountsBox;
+    QStringList names;
+    for (const QString& option : {u"from"_s, u"to"_s}) {
+        const QString wanted = call.value(option);
+        if (accounts.CellView(0, AccountCol::Name).compare(wanted, Qt::CaseInsensitive) == 0)
+            return refused(call, u"the Base Account can't take part in a transfer"_s);
+        // The transfer window lists every account but the Base Account.
+        const int item = accountMenuItem(accounts, wanted);
+        if (item == 0)
+            return refused(call, u"there is no account named \"%1\" in the ledger \"%2\""_s.arg(wanted,
+                                                                                                  ledger.books.theLedger));
+        names << accounts.Cell(item, AccountCol::Name);
+    }
+    const double amount = Val(call.value(u"amount"_s));
+    if (!(amount > 0.0))
+        return refused(call, u"the amount to transfer must be above 0"_s);
+    const QDate date = call.isSet(u"date"_s) ? QDate::fromString(call.value(u"date"_s), u"yyyy-MM-dd"_s)
+                                             : Clock::today();
+    if (const QString problem = ledger.books.doTransferFromTo(names[0], names[1], amount, date); !problem.isEmpty())
+        return refused(call, problem);
+    ledger.books.CheckRepeats(); // the window's closing
     return 0;
 }

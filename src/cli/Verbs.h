@@ -45,6 +45,8 @@ int recalcLedger(const Invocation& call);
 int printBalances(const Invocation& call);
 int storeRepeats(const Invocation& call);
 int printTransactions(const Invocation& call);
+// A transaction as transactions prints it: ROW, then its cells after the first.
+void printTransaction(const Invocation& call, const Listbox& transactions, int row);
 
 int newLedger(const Invocation& call);
 int addAccountVerb(const Invocation& call);
@@ -54,3 +56,8 @@ int deleteAccountVerb(const Invocation& call);
 int addTransactionVerb(const Invocation& call);
 int editTransactionVerb(const Invocation& call);
 int gstVerb(const Invocation& call);
+
+int findVerb(const Invocation& call);
+int deleteTransactionsVerb(const Invocation& call);
+int reconcileVerb(const Invocation& call);
+int transferVerb(const Invocation& call);

@@ -54,6 +54,11 @@ void setUpLedgerList(Listbox& table)
     apply(table, {{u"Ledgers", 100, AlignL, 0}});
 }
 
+void setUpTransferList(Listbox& table)
+{
+    apply(table, {{u"Account", 60, AlignL, 0}, {u"Balance", 40, AlignR, 0}});
+}
+
 void setUpAccountsBox(Listbox& table)
 {
     apply(table, {

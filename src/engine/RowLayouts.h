@@ -58,6 +58,8 @@ bool isWord(QStringView cell, QStringView word);
 void setUpLedgerList(Listbox& table);
 void setUpAccountsBox(Listbox& table);
 void setUpTransBox(Listbox& table);
+// The two lists of the transfer window: "Account" and "Balance".
+void setUpTransferList(Listbox& table);
 
 // Row heights of the grids on screen.
 inline constexpr int kLedgerListRowHeight = 32;

@@ -5,6 +5,8 @@
 #include "engine/AccountMaintenance.h"
 #include "engine/BalanceCalculation.h"
 #include "engine/Repeats.h"
+#include "engine/TransactionSearch.h"
+#include "engine/Transfers.h"
 #include "engine/RowLayouts.h"
 #include "platform/BlockingServices.h"
 #include "platform/Clock.h"
@@ -477,6 +479,42 @@ int SummaryBooks::doGST(const TransactionForm& form, const AccountList* accountL
             accountList->updateBalance();
     }
     return row;
+}
+
+void SummaryBooks::deleteSelectedTransactions()
+{
+    const FileProblemGathering oneMessage;
+    if (transBox.ListIndex() == -1) {
+        MsgBox(u"No transaction selected."_s);
+        return;
+    }
+    if (!confirmDeletion(u"Are you sure you want to delete the selected transaction(s)?"_s))
+        return;
+    transBox.removeRowsWhere([this](int row) { return transBox.Selected(row); });
+    if (LedgerList.ListIndex() > -1) {
+        saveTable(transBox, theLedger, kTransData);
+        saveTable(accountsBox, theLedger, kAccountData);
+    }
+    calcAll();
+}
+
+int SummaryBooks::findTrans(QStringView text)
+{
+    const std::vector<int> hits = findRows(transBox, text);
+    transBox.setSelectedRows(hits);
+    return int(hits.size());
+}
+
+QString SummaryBooks::doTransferFromTo(const QString& source, const QString& destination, double amount,
+                                       const QDate& date)
+{
+    // Two rows in one account that cancel each other would be all it did.
+    if (source.compare(destination, Qt::CaseInsensitive) == 0)
+        return kSameAccount;
+    const FileProblemGathering oneMessage;
+    editAddTransaction(transferWithdrawal(accountsBox, source, destination, amount, date), false);
+    editAddTransaction(transferDeposit(accountsBox, source, destination, amount, date), false);
+    return {};
 }
 
 void SummaryBooks::storeTransactions()

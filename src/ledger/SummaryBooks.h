@@ -92,6 +92,18 @@ public:
     int doGST(const TransactionForm& form, const AccountList* accountList = nullptr);
     // Stores transBox, if a ledger is open: a transaction opened for editing.
     void storeTransactions();
+    // The delete button: after the user's confirmation, every selected row of
+    // transBox goes, from the last upward; both tables are stored and calcAll
+    // runs. Without a selection it says "No transaction selected.".
+    void deleteSelectedTransactions();
+    // Selects exactly the rows of transBox that hold the text in any column
+    // (see findRows); returns how many.
+    int findTrans(QStringView text);
+    // The transfer window's OK (doTransferFromTo): a withdrawal from the source
+    // and a deposit into the destination, each entered as the transaction
+    // dialog's OK enters one, with its own calcAll and repeat pass. One account
+    // on both sides is refused with its message, and nothing is entered.
+    QString doTransferFromTo(const QString& source, const QString& destination, double amount, const QDate& date);
     // The context menu of transBox: one item "number-name" for every account but
     // the Base Account; choosing one gives the selected transaction that account.
     QStringList transBox_ContextualMenuItems() const;

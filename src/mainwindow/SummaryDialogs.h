@@ -4,6 +4,7 @@
 
 class AccountWindow;
 class TransactionWindow;
+class transferWindow;
 class newBookWindow;
 
 // The dialogs the main window opens, each reached through the accessor of its
@@ -13,5 +14,6 @@ class newBookWindow;
 struct SummaryDialogs {
     std::function<::AccountWindow*()> AccountWindow;
     std::function<::TransactionWindow*()> TransactionWindow;
+    std::function<::transferWindow*()> transferWindow;
     std::function<::newBookWindow*()> newBookWindow;
 };

@@ -83,6 +83,12 @@ public:
     // Opens the transaction dialog on the selected transaction.
     void editTransaction();
     void editTransBtn_Action() { editTransaction(); }
+    void deltransbtn_Action();
+    // Selects the transactions that hold the text of the search field.
+    void findTrans();
+    void searchIcon_Action();
+    // Takes the search's selection away and empties the field.
+    void endSearch_Action(AutoButton* pressed);
     void transBox_DoubleClick() { editTransaction(); }
     // Opens the account dialog on the selected account.
     void editAccount();

@@ -5,6 +5,7 @@
 #include "books/rowtable/ui/ListboxView.h"
 #include "engine/ui/AccountWindow.h"
 #include "engine/ui/TransactionWindow.h"
+#include "engine/ui/transferWindow.h"
 #include "widgets/AutoButton.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/Toolbar1.h"
@@ -42,6 +43,16 @@ void SummaryWindow::connectCommands()
     // Opening or closing a ledger changes what the menus offer.
     connect(&books_, &SummaryBooks::importAvailable, this, &SummaryWindow::Event_EnableMenuItems);
     connect(&books_, &SummaryBooks::searchFieldCleared, EditField1, &QLineEdit::clear);
+    connect(&books_, &SummaryBooks::searchFieldCleared, EditField11, &QLineEdit::clear);
+    connect(deltransbtn, &AutoButton::Action, this, &SummaryWindow::deltransbtn_Action);
+    // One set of search controls shows: the field on the frame, its icon and its
+    // end button. The twin set under the frame answers alike.
+    for (QLineEdit* field : {EditField1, EditField11})
+        connect(field, &QLineEdit::returnPressed, this, &SummaryWindow::findTrans);
+    for (AutoButton* icon : {Canvas7, Canvas71})
+        connect(icon, &AutoButton::Action, this, &SummaryWindow::searchIcon_Action);
+    for (AutoButton* end : {endSearch, endSearch1})
+        connect(end, &AutoButton::Action, this, [this, end] { endSearch_Action(end); });
     connect(&books_.accountsBox, &Listbox::DoubleClick, this, &SummaryWindow::accountsBox_DoubleClick);
     connect(&books_.transBox, &Listbox::DoubleClick, this, &SummaryWindow::transBox_DoubleClick);
     connect(addtransbtn, &AutoButton::Action, this, &SummaryWindow::addtransbtn_Action);
@@ -100,6 +111,31 @@ void SummaryWindow::editTransaction()
     dialogs_.TransactionWindow()->editTransaction(row);
 }
 
+void SummaryWindow::deltransbtn_Action()
+{
+    books_.deleteSelectedTransactions();
+}
+
+void SummaryWindow::findTrans()
+{
+    books_.findTrans(EditField11->text());
+    endSearch1->show();
+    transBoxView->setFocus();
+}
+
+void SummaryWindow::searchIcon_Action()
+{
+    if (!EditField11->text().isEmpty())
+        findTrans();
+}
+
+void SummaryWindow::endSearch_Action(AutoButton* pressed)
+{
+    books_.transBox.setSelectedRows({});
+    EditField11->clear();
+    pressed->hide();
+}
+
 void SummaryWindow::Toolbar11_Action(QAction* item)
 {
     const QString name = item->objectName();
@@ -116,7 +152,13 @@ void SummaryWindow::Toolbar11_Action(QAction* item)
     } else if (name == u"Transactions") {
         if (books_.accountsBox.ListIndex() <= 0)
             return MsgBox(u"No account selected"_s);
-    } else if (name == u"Transfer" || name == u"Ledger" || name == u"Graphs") {
+    } else if (name == u"Transfer") {
+        if (!ledgerOpen)
+            return MsgBox(kNoLedger);
+        ::transferWindow* transfer = dialogs_.transferWindow();
+        transfer->myParent = this;
+        transfer->show();
+    } else if (name == u"Ledger" || name == u"Graphs") {
         if (!ledgerOpen)
             return MsgBox(kNoLedger);
     }
