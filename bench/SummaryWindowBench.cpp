@@ -1,12 +1,14 @@
 // The main window with a ledger of 1,000 to 100,000 transactions: opening the
-// ledger in the visible window up to its first painted screen, and scrolling the
-// transactions from the top to the end with the repaint that follows.
+// ledger in the visible window up to its first painted screen, scrolling the
+// transactions from the top to the end with the repaint that follows, and a
+// search that hits one row in a hundred, selects them and repaints.
 #include "books/rowtable/ui/ListboxView.h"
 #include "app/Windows.h"
 #include "mainwindow/SummaryWindow.h"
 #include "reference/GeneratedLedger.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QDir>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -75,7 +77,28 @@ void BM_ScrollTransactionsToEnd(benchmark::State& state)
     benchmark::DoNotOptimize(grid->verticalScrollBar()->value());
 }
 
+void BM_SearchSelectAndPaint(benchmark::State& state)
+{
+    BenchWindow bench(int(state.range(0)));
+    bench.window->LedgerList().SetListIndex(0);
+    Listbox& transactions = bench.window->transBox();
+    for (int row = 0; row < transactions.ListCount(); row += 100)
+        transactions.SetCell(row, 9, u"paid with the zqx card"_s); // the memo, which no column shows
+    bench.paint();
+    for (auto _ : state) {
+        state.PauseTiming();
+        transactions.setSelectedRows({});
+        bench.paint();
+        state.ResumeTiming();
+        bench.window->EditField11->setText(u"ZQX"_s);
+        bench.window->findTrans();
+        bench.paint();
+    }
+    state.counters["hits"] = double((transactions.ListCount() + 99) / 100);
+}
+
 } // namespace
 
+BENCHMARK(BM_SearchSelectAndPaint)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_OpenLedgerAndPaint)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ScrollTransactionsToEnd)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);

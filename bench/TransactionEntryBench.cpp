@@ -1,10 +1,12 @@
 // A ledger of 200 accounts with 1,000 to 100,000 transactions, one in fifty a
 // monthly repeat that isn't due: adding a transaction as the dialog's OK does
-// (the row, calcAll with both saves, the repeat pass), and the repeat pass
-// alone with nothing due.
+// (the row, calcAll with both saves, the repeat pass); the repeat pass alone
+// with nothing due; deleting 1,000 selected rows as the delete button does
+// (both saves and calcAll); a transfer (two rows, two calcAlls).
 #include "engine/RowLayouts.h"
 #include "engine/TransactionEntry.h"
 #include "ledger/SummaryBooks.h"
+#include "platform/BlockingServices.h"
 #include "platform/Clock.h"
 #include "reference/GeneratedLedger.h"
 
@@ -64,7 +66,36 @@ void BM_CheckRepeatsNothingDue(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+void BM_DeleteThousandSelectedRows(benchmark::State& state)
+{
+    BenchLedger ledger(int(state.range(0)));
+    BlockingServiceHooks confirmed;
+    confirmed.messageDialog = [](const MessageDialog&) { return MessageDialog::Button::Action; };
+    const BlockingServiceHooks previous = installBlockingServices(confirmed);
+    for (auto _ : state) {
+        state.PauseTiming();
+        std::vector<int> rows;
+        for (int row = 0; row < ledger.books->transBox.ListCount() && rows.size() < 1000; row += 50)
+            rows.push_back(row);
+        ledger.books->transBox.setSelectedRows(rows);
+        state.ResumeTiming();
+        ledger.books->deleteSelectedTransactions();
+    }
+    installBlockingServices(previous);
+}
+
+void BM_Transfer(benchmark::State& state)
+{
+    BenchLedger ledger(int(state.range(0)));
+    const QString from = ledger.books->accountsBox.Cell(3, AccountCol::Name);
+    const QString to = ledger.books->accountsBox.Cell(7, AccountCol::Name);
+    for (auto _ : state)
+        ledger.books->doTransferFromTo(from, to, 12.5, QDate(2010, 1, 1));
+}
+
 } // namespace
 
+BENCHMARK(BM_DeleteThousandSelectedRows)->Arg(100000)->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Transfer)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_AddTransaction)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_CheckRepeatsNothingDue)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);

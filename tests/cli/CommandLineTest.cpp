@@ -336,3 +336,72 @@ TEST_F(CommandLineTest, RefusedTransactionInputsWriteNothing)
                                 u"gst NAME ROW"_s, u"--today"_s})
         EXPECT_TRUE(help.contains(verb)) << verb.toStdString();
 }
+
+TEST_F(CommandLineTest, FindDeleteAndReconcileDoWhatTheListDoes)
+{
+    const QByteArray transactions = readBytes(book(u"  ShopTransData"_s));
+    CliRun run = runCli(data() << u"find"_s << u"Shop"_s << u"MONTHLY"_s);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, u"2\tRent\t2014-03-10\tMarch\t\t-40\t\t-40,00\t\t\ttrue\tMonthly\n") << "the repeat word is searched";
+    for (const QString& nothing : {u""_s, u"@#@"_s, u"no such text"_s}) {
+        run = runCli(data() << u"find"_s << u"Shop"_s << nothing);
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.out, u"");
+    }
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions) << "finding writes nothing";
+
+    // A click on row 1's box checks it; on row 2's, checked already, none; only transBox is stored.
+    const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
+    run = runCli(data() << u"reconcile"_s << u"Shop"_s << u"1"_s << u"2"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).startsWith("@#@sales@#@2014-03-09@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@true@#@"));
+    EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)), accounts);
+    run = runCli(data() << u"reconcile"_s << u"Shop"_s << u"2"_s << u"--off"_s);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).contains("@#@-40,00@#@@#@@#@false@#@Monthly@#@"));
+
+    // Reconcile mode counts row 1 alone.
+    run = runCli(data() << u"balances"_s << u"Shop"_s << u"--reconciled"_s);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, u"Balance\tBase Account\t112.50\nSales\tRevenue\t18.00\nRent\tExpense\t0.00\n");
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("@#@Rent@#@Expense@#@@#@0@#@0@#@"));
+
+    run = runCli(data() << u"delete"_s << u"Shop"_s << u"2"_s << u"1"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), QByteArray());
+    EXPECT_TRUE(readBytes(book(u"  ShopAccountData"_s)).contains("@#@Sales@#@Revenue@#@5,5@#@0@#@5.5@#@"));
+}
+
+TEST_F(CommandLineTest, TransferEntersBothRowsAndRefusesWhatItCant)
+{
+    const auto files = [this] {
+        return std::pair{readBytes(book(u"  ShopAccountData"_s)), readBytes(book(u"  ShopTransData"_s))};
+    };
+    const auto before = files();
+    const QList<std::pair<QStringList, QString>> refusals{
+        {{u"--from"_s, u"balance"_s, u"--to"_s, u"Rent"_s, u"--amount"_s, u"5"_s}, u"Base Account"_s},
+        {{u"--from"_s, u"Sales"_s, u"--to"_s, u"Travel"_s, u"--amount"_s, u"5"_s}, u"no account named \"Travel\""_s},
+        {{u"--from"_s, u"Sales"_s, u"--to"_s, u"SALES"_s, u"--amount"_s, u"5"_s}, u"cannot be the same account"_s},
+        {{u"--from"_s, u"Sales"_s, u"--to"_s, u"Rent"_s, u"--amount"_s, u"0"_s}, u"above 0"_s},
+        {{u"--from"_s, u"Sales"_s, u"--to"_s, u"Rent"_s, u"--amount"_s, u"-5"_s}, u"above 0"_s},
+        {{u"--from"_s, u"Sales"_s, u"--to"_s, u"Rent"_s, u"--amount"_s, u"five"_s}, u"above 0"_s},
+    };
+    for (const auto& [options, message] : refusals) {
+        const CliRun run = runCli(data() << u"transfer"_s << u"Shop"_s << options);
+        EXPECT_EQ(run.status, 1) << options.join(u' ').toStdString();
+        EXPECT_TRUE(run.err.contains(message)) << run.err.toStdString();
+    }
+    EXPECT_EQ(runCli(data() << u"transfer"_s << u"Shop"_s << u"--from"_s << u"Sales"_s << u"--to"_s << u"Rent"_s).status, 2);
+    EXPECT_EQ(runCli(data() << u"delete"_s << u"Shop"_s << u"1"_s << u"3"_s).status, 1) << "one bad row refuses all";
+    EXPECT_EQ(runCli(data() << u"reconcile"_s << u"Shop"_s << u"0"_s).status, 1);
+    EXPECT_EQ(runCli(data() << u"delete"_s << u"Shop"_s).status, 2);
+    EXPECT_EQ(files(), before);
+
+    const CliRun run = runCli(data() << u"transfer"_s << u"Shop"_s << u"--from"_s << u"sales"_s << u"--to"_s << u"rent"_s
+                                     << u"--amount"_s << u"7,5"_s << u"--date"_s << u"2014-03-15"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s))
+                    .endsWith("\n@#@Sales@#@2014-03-15@#@Transfer to Rent@#@@#@-7.00@#@@#@-7.00@#@3477686400@#@@#@@#@Never@#@\n"
+                              "@#@Rent@#@2014-03-15@#@Transfer from Sales@#@@#@7.00@#@@#@7.00@#@3477686400@#@@#@@#@Never@#@\n"))
+        << "the names as the ledger holds them; the amount read by Val";
+}

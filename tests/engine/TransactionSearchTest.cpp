@@ -12,7 +12,7 @@ struct Ledger : Listbox {
     Ledger()
         : Listbox(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple)
     {
-        row({u"Sales"_s, u"2026-11-02"_s, u"Till"_s, u"3876422400"_s, u"cash in the jar"_s, u"Never"_s});
+        row({u"Sales"_s, u"2026-11-02"_s, u"Till"_s, u"3876422400"_s, u"cash in the jar \u212Aelvin"_s, u"Never"_s});
         row({u"Rent"_s, u"2026-11-03"_s, u"November (flat)"_s, u"3876508800"_s, u""_s, u"Monthly"_s});
         row({u"Café"_s, u"2026-11-04"_s, u"Été.*"_s, u"3876595200"_s, u"a@b"_s, u"never"_s});
     }
@@ -36,11 +36,14 @@ TEST(TransactionSearch, FindsPlainTextInEveryColumnIgnoringCase)
     const QList<std::pair<QString, std::vector<int>>> cases{
         {u"rent"_s, {1}},
         {u"JAR"_s, {0}},                 // a memo nobody sees
+        {u"kelvin"_s, {0}},              // the Kelvin sign folds to "k"
         {u"monthly"_s, {1}},             // the repeat word
         {u"38765"_s, {1, 2}},            // digits hit the seconds
         {u"2026-11-0"_s, {0, 1, 2}},
         {u"été"_s, {2}},                 // case ignored beyond ASCII
         {u"CAFÉ"_s, {2}},
+        {u"ſales"_s, {0}},               // the long s folds to "s"
+        {u"TILL"_s, {0}},
         {u".*"_s, {2}},                  // plain text, no pattern
         {u"(flat)"_s, {1}},
         {u"a@b"_s, {2}},
