@@ -4,6 +4,7 @@
 #include "app/SplashWindow.h"
 #include "books/ui/PrefsWindow.h"
 #include "books/ui/newBookWindow.h"
+#include "charts/ui/chartingWindow.h"
 #include "engine/ui/AccountWindow.h"
 #include "engine/ui/TransactionWindow.h"
 #include "engine/ui/transferWindow.h"
@@ -51,6 +52,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
             .TransactionWindow = &Windows::TransactionWindow,
             .transferWindow = &Windows::transferWindow,
             .newBookWindow = &Windows::newBookWindow,
+            .chartingWindow = &Windows::chartingWindow,
         });
         App::AddMenuHandlers(*window->menuBar());
         return window;
@@ -81,6 +83,15 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         ::SummaryWindow* summary = Windows::SummaryWindow();
         return new ::transferWindow(summary->books(), summary);
+    });
+}
+
+::chartingWindow* Windows::chartingWindow()
+{
+    static QPointer<::chartingWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        return new ::chartingWindow(summary->books().accountsBox, summary);
     });
 }
 

@@ -13,6 +13,7 @@ class PrefsWindow;
 class AccountWindow;
 class TransactionWindow;
 class transferWindow;
+class chartingWindow;
 
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
@@ -43,4 +44,5 @@ namespace Windows {
 ::AccountWindow* AccountWindow();
 ::TransactionWindow* TransactionWindow();
 ::transferWindow* transferWindow();
+::chartingWindow* chartingWindow();
 } // namespace Windows

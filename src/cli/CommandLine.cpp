@@ -55,6 +55,13 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] C
                       "  transfer NAME --from A --to B --amount X [--date YYYY-MM-DD]\n"
                       "                 The transfer window's OK: X from account A to account B. Neither\n"
                       "                 may be the Base Account or both the same account; X must be above 0.\n"
+                      "  chart NAME --kind bar|pie --out FILE.png [--size WxH]\n"
+                      "                 Draws the chart window's chart as a PNG picture of the canvas, 553 by\n"
+                      "                 432 pixels unless --size says otherwise (1 to 10000 each way): bar,\n"
+                      "                 the accounts' transaction totals; pie, their opening amounts. For the\n"
+                      "                 pie it prints each legend line: the account's row, its colour as\n"
+                      "                 #RRGGBB and its name, tab-separated; or the window's notice when no\n"
+                      "                 account has an opening amount. Writes nothing else.\n"
                       "  new-ledger NAME [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Adds the ledger NAME as the \"+\" button does, then gives it its Base\n"
                       "                 Account \"Balance\" as the account dialog's OK does, with AMOUNT in the\n"
@@ -122,6 +129,7 @@ const QList<Verb>& verbs()
         {u"delete"_s, -2, {}, &deleteTransactionsVerb},
         {u"reconcile"_s, -2, {u"off"_s}, &reconcileVerb},
         {u"transfer"_s, 1, {u"from"_s, u"to"_s, u"amount"_s, u"date"_s}, &transferVerb},
+        {u"chart"_s, 1, {u"kind"_s, u"out"_s, u"size"_s}, &chartVerb},
     };
     return all;
 }
@@ -137,7 +145,7 @@ QList<QCommandLineOption> allOptions()
         options << QCommandLineOption(flag);
     for (const QString& valued : {u"opening"_s, u"notes"_s, u"rename"_s, u"account"_s, u"amount"_s, u"adjust"_s,
                                   u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s, u"from"_s,
-                                  u"to"_s})
+                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s})
         options << QCommandLineOption(valued, valued, u"TEXT"_s);
     return options;
 }
@@ -181,6 +189,8 @@ bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringLis
     }
     // A transfer names both its accounts and its amount.
     if (verb.name == u"transfer" && !(parser.isSet(u"from"_s) && parser.isSet(u"to"_s) && parser.isSet(u"amount"_s)))
+        return false;
+    if (verb.name == u"chart" && !chartOptionsUsable(parser))
         return false;
     return true;
 }

@@ -61,3 +61,7 @@ int findVerb(const Invocation& call);
 int deleteTransactionsVerb(const Invocation& call);
 int reconcileVerb(const Invocation& call);
 int transferVerb(const Invocation& call);
+
+// --kind bar|pie, --out and a --size that is one.
+bool chartOptionsUsable(const QCommandLineParser& parser);
+int chartVerb(const Invocation& call);

@@ -1,13 +1,19 @@
 #include "cli/CommandLine.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextStream>
 
 #include <cstdio>
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    // Charts need fonts, and so an application of the GUI, but never a display.
+    // What the platform says as it starts (a desktop session without a runtime
+    // folder, say) concerns no command, so it isn't printed.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    QGuiApplication application(argc, argv);
+    qInstallMessageHandler(previous);
     QTextStream out(stdout);
     QTextStream err(stderr);
     return runCommandLine(QCoreApplication::arguments(), out, err);

@@ -6,6 +6,7 @@ class AccountWindow;
 class TransactionWindow;
 class transferWindow;
 class newBookWindow;
+class chartingWindow;
 
 // The dialogs the main window opens, each reached through the accessor of its
 // name: the one instance while it is open, a new one after it closed. The
@@ -16,4 +17,5 @@ struct SummaryDialogs {
     std::function<::TransactionWindow*()> TransactionWindow;
     std::function<::transferWindow*()> transferWindow;
     std::function<::newBookWindow*()> newBookWindow;
+    std::function<::chartingWindow*()> chartingWindow;
 };

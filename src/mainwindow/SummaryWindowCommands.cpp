@@ -3,6 +3,7 @@
 #include "mainwindow/SummaryWindow.h"
 
 #include "books/rowtable/ui/ListboxView.h"
+#include "charts/ui/chartingWindow.h"
 #include "engine/ui/AccountWindow.h"
 #include "engine/ui/TransactionWindow.h"
 #include "engine/ui/transferWindow.h"
@@ -158,9 +159,15 @@ void SummaryWindow::Toolbar11_Action(QAction* item)
         ::transferWindow* transfer = dialogs_.transferWindow();
         transfer->myParent = this;
         transfer->show();
-    } else if (name == u"Ledger" || name == u"Graphs") {
+    } else if (name == u"Ledger") {
         if (!ledgerOpen)
             return MsgBox(kNoLedger);
+    } else if (name == u"Graphs") {
+        if (!ledgerOpen)
+            return MsgBox(kNoLedger);
+        ::chartingWindow* charts = dialogs_.chartingWindow();
+        charts->setWindowTitle(books_.LedgerList.Text());
+        charts->show();
     }
     update();
 }

@@ -19,6 +19,7 @@ BlockingServiceHooks defaultHooks()
     hooks.messageDialog = [](const MessageDialog& dialog) {
         return dialog.CancelButton.isEmpty() ? MessageDialog::Button::Action : MessageDialog::Button::Cancel;
     };
+    hooks.openPrinterDialog = [](const PrinterSetup&) { return std::unique_ptr<Graphics>(); };
     hooks.beep = [] {};
     hooks.showUrl = [](const QString& url) { QDesktopServices::openUrl(QUrl(url)); };
     hooks.quit = [] { QCoreApplication::quit(); };
@@ -36,6 +37,7 @@ BlockingServiceHooks& current()
 BlockingServiceHooks installBlockingServices(const BlockingServiceHooks& hooks)
 {
     return replaceSetHooks(current(), hooks, &BlockingServiceHooks::msgBox, &BlockingServiceHooks::messageDialog,
+                           &BlockingServiceHooks::openPrinterDialog,
                            &BlockingServiceHooks::beep, &BlockingServiceHooks::showUrl, &BlockingServiceHooks::quit);
 }
 
@@ -52,6 +54,11 @@ MessageDialog::Button MessageDialog::ShowModal() const
 void MsgBox(const QString& message)
 {
     current().msgBox(message);
+}
+
+std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup& setup)
+{
+    return current().openPrinterDialog(setup);
 }
 
 void Beep()

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "platform/Graphics.h"
+#include "platform/PrinterSetup.h"
+
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 // The services that wait for the user or leave the program: message box,
-// confirmation dialog, beep, web browser, quit. Each goes through one replaceable
+// confirmation dialog, printer dialog, beep, web browser, quit. Each goes through one replaceable
 // hook, so the windows install the real dialogs and a test scripts the answers and
 // records what was shown. Without the windows' hooks, messages go to stderr and a
-// confirmation is always answered "Cancel": nothing irreversible happens unasked.
+// confirmation is always answered "Cancel" and the printer dialog is cancelled:
+// nothing irreversible happens unasked.
 
 struct MessageDialog {
     QString Message;
@@ -24,6 +29,7 @@ struct MessageDialog {
 struct BlockingServiceHooks {
     std::function<void(const QString& message)> msgBox;
     std::function<MessageDialog::Button(const MessageDialog&)> messageDialog;
+    std::function<std::unique_ptr<Graphics>(const PrinterSetup&)> openPrinterDialog;
     std::function<void()> beep;
     std::function<void(const QString& url)> showUrl;
     std::function<void()> quit;
@@ -39,6 +45,9 @@ void MsgBox(const QString& message);
 // "This action cannot be undone." and the buttons "Delete" and "Cancel". True
 // when the user chose "Delete".
 bool confirmDeletion(const QString& message);
+// The printer dialog for a page set up so: the surface of the pages to print
+// on, or null when the user cancelled.
+std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup& setup);
 void Beep();
 void ShowURL(const QString& url);
 void Quit();

@@ -13,6 +13,15 @@ Picture::Picture(QImage image)
 {
 }
 
+Picture::~Picture() = default;
+
+Graphics& Picture::Graphics()
+{
+    if (!graphics_)
+        graphics_ = std::make_unique<::Graphics>(image_);
+    return *graphics_;
+}
+
 PictureRef Picture::named(const QString& name)
 {
     QImage image(u":/pictures/"_s + name + u".png"_s);

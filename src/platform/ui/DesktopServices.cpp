@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 
 namespace {
@@ -37,6 +39,17 @@ MessageDialog::Button showMessageDialog(const MessageDialog& dialog)
     return MessageDialog::Button::Cancel;
 }
 
+// The system's printer dialog; accepted, the printer it was set to becomes the
+// surface of the pages.
+std::unique_ptr<Graphics> showPrinterDialog(const PrinterSetup&)
+{
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialog(printer.get(), dialogParent());
+    if (dialog.exec() != QDialog::Accepted)
+        return nullptr;
+    return std::make_unique<Graphics>(std::move(printer));
+}
+
 } // namespace
 
 void installDesktopServices()
@@ -49,6 +62,7 @@ void installDesktopServices()
         box.exec();
     };
     hooks.messageDialog = showMessageDialog;
+    hooks.openPrinterDialog = showPrinterDialog;
     hooks.beep = [] { QApplication::beep(); };
     installBlockingServices(hooks);
 }
