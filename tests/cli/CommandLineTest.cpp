@@ -3,6 +3,7 @@
 #include "support/FailingSaves.h"
 
 #include <QDir>
+#include <QImage>
 #include <QProcess>
 #include <QTextStream>
 
@@ -404,4 +405,50 @@ TEST_F(CommandLineTest, TransferEntersBothRowsAndRefusesWhatItCant)
                     .endsWith("\n@#@Sales@#@2014-03-15@#@Transfer to Rent@#@@#@-7.00@#@@#@-7.00@#@3477686400@#@@#@@#@Never@#@\n"
                               "@#@Rent@#@2014-03-15@#@Transfer from Sales@#@@#@7.00@#@@#@7.00@#@3477686400@#@@#@@#@Never@#@\n"))
         << "the names as the ledger holds them; the amount read by Val";
+}
+
+TEST_F(CommandLineTest, ChartWritesTheCanvasAsPngAndPrintsThePiesLegend)
+{
+    const auto files = [this] {
+        return std::pair{QDir(home.books()).entryList(QDir::Files), readBytes(book(u"  ShopAccountData"_s))};
+    };
+    const auto before = files();
+    const QString bar = home.path() + u"/bar.png"_s;
+    CliRun run = runCli(data() << u"chart"_s << u"shop"_s << u"--kind"_s << u"bar"_s << u"--out"_s << bar);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, u"") << "no legend, no notice";
+    EXPECT_EQ(QImage(bar).size(), QSize(553, 432));
+
+    // Sales' opening "5,5" reads 5 and is the first, black slice; Rent has none.
+    const QString pie = home.path() + u"/pie.png"_s;
+    run = runCli(data() << u"chart"_s << u"Shop"_s << u"--kind"_s << u"pie"_s << u"--out"_s << pie << u"--size"_s
+                        << u"300x200"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, u"1\t#000000\tSales\n");
+    EXPECT_EQ(QImage(pie).size(), QSize(300, 200));
+    EXPECT_EQ(QImage(pie).pixelColor(150, 120), QColor(Qt::black)) << "the whole disc";
+
+    run = runCli(data() << u"chart"_s << u"home ledger"_s << u"--kind"_s << u"pie"_s << u"--out"_s << pie);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, u"None of the accounts have been alloted opening amounts.\n");
+
+    // Refusals write no picture.
+    const QString none = home.path() + u"/none.png"_s;
+    const QList<std::pair<QStringList, int>> refusals{
+        {{u"chart"_s, u"Garage"_s, u"--kind"_s, u"bar"_s, u"--out"_s, none}, 1},
+        {{u"chart"_s, u"Shop"_s, u"--kind"_s, u"bar"_s, u"--out"_s, home.path() + u"/no/such/folder.png"_s}, 1},
+        {{u"chart"_s, u"Shop"_s, u"--kind"_s, u"line"_s, u"--out"_s, none}, 2},
+        {{u"chart"_s, u"Shop"_s, u"--out"_s, none}, 2},
+        {{u"chart"_s, u"Shop"_s, u"--kind"_s, u"pie"_s}, 2},
+        {{u"chart"_s, u"Shop"_s, u"--kind"_s, u"pie"_s, u"--out"_s, none, u"--size"_s, u"0x100"_s}, 2},
+        {{u"chart"_s, u"Shop"_s, u"--kind"_s, u"pie"_s, u"--out"_s, none, u"--size"_s, u"553"_s}, 2},
+        {{u"chart"_s, u"Shop"_s, u"--kind"_s, u"pie"_s, u"--out"_s, none, u"--size"_s, u"20000x100"_s}, 2},
+    };
+    for (const auto& [arguments, status] : refusals) {
+        run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, status) << arguments.join(u' ').toStdString();
+        EXPECT_FALSE(run.err.isEmpty());
+    }
+    EXPECT_FALSE(fileExists(none));
+    EXPECT_EQ(files(), before) << "the ledgers as they were";
 }
