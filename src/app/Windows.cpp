@@ -9,6 +9,7 @@
 #include "engine/ui/TransactionWindow.h"
 #include "engine/ui/transferWindow.h"
 #include "mainwindow/SummaryWindow.h"
+#include "reports/ui/ledgerWindow.h"
 #include "update/ui/AboutWindow.h"
 
 #include <QEvent>
@@ -53,6 +54,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
             .transferWindow = &Windows::transferWindow,
             .newBookWindow = &Windows::newBookWindow,
             .chartingWindow = &Windows::chartingWindow,
+            .ledgerWindow = &Windows::ledgerWindow,
         });
         App::AddMenuHandlers(*window->menuBar());
         return window;
@@ -92,6 +94,15 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         ::SummaryWindow* summary = Windows::SummaryWindow();
         return new ::chartingWindow(summary->books().accountsBox, summary);
+    });
+}
+
+::ledgerWindow* Windows::ledgerWindow()
+{
+    static QPointer<::ledgerWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        return new ::ledgerWindow(summary->books().accountsBox, summary->books().transBox, summary);
     });
 }
 

@@ -14,6 +14,7 @@ class AccountWindow;
 class TransactionWindow;
 class transferWindow;
 class chartingWindow;
+class ledgerWindow;
 
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
@@ -45,4 +46,5 @@ namespace Windows {
 ::TransactionWindow* TransactionWindow();
 ::transferWindow* transferWindow();
 ::chartingWindow* chartingWindow();
+::ledgerWindow* ledgerWindow();
 } // namespace Windows

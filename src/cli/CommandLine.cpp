@@ -62,6 +62,15 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] C
                       "                 pie it prints each legend line: the account's row, its colour as\n"
                       "                 #RRGGBB and its name, tab-separated; or the window's notice when no\n"
                       "                 account has an opening amount. Writes nothing else.\n"
+                      "  report NAME [--month M | --year Y | --show-year] [--pdf FILE]\n"
+                      "                 The ledger report window as it opens on every month, or on month M\n"
+                      "                 of every year (1 to 12; 0 is all), or with Y typed in its year field\n"
+                      "                 and \"Show Year\" pressed, or \"Show Year\" pressed on the present\n"
+                      "                 year. Prints each row of the report, its eight cells (the last the\n"
+                      "                 hidden type word of an account's foot) tab-separated, or the line\n"
+                      "                 \"No transactions found\". With --pdf it presses the print button\n"
+                      "                 instead: the report, fitted to an A4 page, goes to the PDF FILE.\n"
+                      "                 Writes nothing in the data folder.\n"
                       "  new-ledger NAME [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Adds the ledger NAME as the \"+\" button does, then gives it its Base\n"
                       "                 Account \"Balance\" as the account dialog's OK does, with AMOUNT in the\n"
@@ -130,6 +139,7 @@ const QList<Verb>& verbs()
         {u"reconcile"_s, -2, {u"off"_s}, &reconcileVerb},
         {u"transfer"_s, 1, {u"from"_s, u"to"_s, u"amount"_s, u"date"_s}, &transferVerb},
         {u"chart"_s, 1, {u"kind"_s, u"out"_s, u"size"_s}, &chartVerb},
+        {u"report"_s, 1, {u"month"_s, u"year"_s, u"show-year"_s, u"pdf"_s}, &reportVerb},
     };
     return all;
 }
@@ -141,11 +151,11 @@ QList<QCommandLineOption> allOptions()
         QCommandLineOption(u"today"_s, u"the present day"_s, u"YYYY-MM-DD"_s),
         QCommandLineOption(QStringList{u"h"_s, u"help"_s}),
     };
-    for (const QString& flag : {u"revenue"_s, u"deposit"_s, u"withdrawal"_s, u"gst"_s, u"off"_s, u"reconciled"_s})
+    for (const QString& flag : {u"revenue"_s, u"deposit"_s, u"withdrawal"_s, u"gst"_s, u"off"_s, u"reconciled"_s, u"show-year"_s})
         options << QCommandLineOption(flag);
     for (const QString& valued : {u"opening"_s, u"notes"_s, u"rename"_s, u"account"_s, u"amount"_s, u"adjust"_s,
                                   u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s, u"from"_s,
-                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s})
+                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s, u"month"_s, u"year"_s, u"pdf"_s})
         options << QCommandLineOption(valued, valued, u"TEXT"_s);
     return options;
 }
@@ -191,6 +201,8 @@ bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringLis
     if (verb.name == u"transfer" && !(parser.isSet(u"from"_s) && parser.isSet(u"to"_s) && parser.isSet(u"amount"_s)))
         return false;
     if (verb.name == u"chart" && !chartOptionsUsable(parser))
+        return false;
+    if (verb.name == u"report" && !reportOptionsUsable(parser))
         return false;
     return true;
 }

@@ -65,3 +65,7 @@ int transferVerb(const Invocation& call);
 // --kind bar|pie, --out and a --size that is one.
 bool chartOptionsUsable(const QCommandLineParser& parser);
 int chartVerb(const Invocation& call);
+
+// At most one of --month M (0 to 12), --year Y and --show-year.
+bool reportOptionsUsable(const QCommandLineParser& parser);
+int reportVerb(const Invocation& call);

@@ -7,6 +7,7 @@ class TransactionWindow;
 class transferWindow;
 class newBookWindow;
 class chartingWindow;
+class ledgerWindow;
 
 // The dialogs the main window opens, each reached through the accessor of its
 // name: the one instance while it is open, a new one after it closed. The
@@ -18,4 +19,5 @@ struct SummaryDialogs {
     std::function<::transferWindow*()> transferWindow;
     std::function<::newBookWindow*()> newBookWindow;
     std::function<::chartingWindow*()> chartingWindow;
+    std::function<::ledgerWindow*()> ledgerWindow;
 };

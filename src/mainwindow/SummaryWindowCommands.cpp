@@ -11,6 +11,7 @@
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
+#include "reports/ui/ledgerWindow.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -162,6 +163,9 @@ void SummaryWindow::Toolbar11_Action(QAction* item)
     } else if (name == u"Ledger") {
         if (!ledgerOpen)
             return MsgBox(kNoLedger);
+        ::ledgerWindow* report = dialogs_.ledgerWindow();
+        report->setWindowTitle(books_.LedgerList.Text() + u" - Summary"_s);
+        report->show();
     } else if (name == u"Graphs") {
         if (!ledgerOpen)
             return MsgBox(kNoLedger);

@@ -19,6 +19,7 @@ BlockingServiceHooks defaultHooks()
     hooks.messageDialog = [](const MessageDialog& dialog) {
         return dialog.CancelButton.isEmpty() ? MessageDialog::Button::Action : MessageDialog::Button::Cancel;
     };
+    hooks.pageSetupDialog = [](PrinterSetup&) { return false; };
     hooks.openPrinterDialog = [](const PrinterSetup&) { return std::unique_ptr<Graphics>(); };
     hooks.beep = [] {};
     hooks.showUrl = [](const QString& url) { QDesktopServices::openUrl(QUrl(url)); };
@@ -37,7 +38,7 @@ BlockingServiceHooks& current()
 BlockingServiceHooks installBlockingServices(const BlockingServiceHooks& hooks)
 {
     return replaceSetHooks(current(), hooks, &BlockingServiceHooks::msgBox, &BlockingServiceHooks::messageDialog,
-                           &BlockingServiceHooks::openPrinterDialog,
+                           &BlockingServiceHooks::pageSetupDialog, &BlockingServiceHooks::openPrinterDialog,
                            &BlockingServiceHooks::beep, &BlockingServiceHooks::showUrl, &BlockingServiceHooks::quit);
 }
 

@@ -9,11 +9,11 @@
 #include <memory>
 
 // The services that wait for the user or leave the program: message box,
-// confirmation dialog, printer dialog, beep, web browser, quit. Each goes through one replaceable
+// confirmation dialog, page setup and printer dialogs, beep, web browser, quit. Each goes through one replaceable
 // hook, so the windows install the real dialogs and a test scripts the answers and
 // records what was shown. Without the windows' hooks, messages go to stderr and a
-// confirmation is always answered "Cancel" and the printer dialog is cancelled:
-// nothing irreversible happens unasked.
+// confirmation is always answered "Cancel" and the page setup and printer
+// dialogs are cancelled: nothing irreversible happens unasked.
 
 struct MessageDialog {
     QString Message;
@@ -29,6 +29,7 @@ struct MessageDialog {
 struct BlockingServiceHooks {
     std::function<void(const QString& message)> msgBox;
     std::function<MessageDialog::Button(const MessageDialog&)> messageDialog;
+    std::function<bool(PrinterSetup&)> pageSetupDialog;
     std::function<std::unique_ptr<Graphics>(const PrinterSetup&)> openPrinterDialog;
     std::function<void()> beep;
     std::function<void(const QString& url)> showUrl;

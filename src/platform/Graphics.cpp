@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFarthest = 1'000'000;
-constexpr int kSystemTextSize = 12;
+constexpr int kSystemTextSize = 10;
 
 // The lines of a text broken at a wrap width, between words where it can and
 // inside a word too long for a line of its own.
@@ -87,16 +87,31 @@ Graphics::~Graphics()
         pagePainter_->end();
 }
 
-QFont Graphics::font() const
+const QFont& Graphics::font() const
 {
-    QFont font = QGuiApplication::font();
+    const FontState state{TextFont, TextSize, Bold, Italic, Underline};
+    if (fontState_ == state)
+        return font_;
+    fontState_ = state;
+    font_ = QGuiApplication::font();
     if (!TextFont.isEmpty() && TextFont != u"System")
-        font.setFamilies({TextFont});
-    font.setPixelSize(TextSize > 0 ? TextSize : kSystemTextSize);
-    font.setBold(Bold);
-    font.setItalic(Italic);
-    font.setUnderline(Underline);
-    return font;
+        font_.setFamilies({TextFont});
+    font_.setPixelSize(TextSize > 0 ? TextSize : kSystemTextSize);
+    font_.setBold(Bold);
+    font_.setItalic(Italic);
+    font_.setUnderline(Underline);
+    // On paper the text is drawn many times its size: its outlines as designed,
+    // not bent to a screen's pixels, so it measures as it prints.
+    if (pages_)
+        font_.setHintingPreference(QFont::PreferNoHinting);
+    metrics_.emplace(font_);
+    return font_;
+}
+
+const QFontMetrics& Graphics::metrics() const
+{
+    font();
+    return *metrics_;
 }
 
 template <typename Draw>
@@ -177,13 +192,13 @@ void Graphics::DrawString(const QString& text, double x, double y, double wrapWi
     if (text.isEmpty())
         return;
     const QPoint at(surfaceUnit(x), surfaceUnit(y));
-    if (wrapWidth <= 0 && !text.contains(u'\n')) {
+    const bool oneLine = !text.contains(u'\n') && (wrapWidth <= 0 || metrics().horizontalAdvance(text) <= wrapWidth);
+    if (oneLine) {
         paint([&](QPainter& painter) { painter.drawText(at, text); });
         return;
     }
-    const QFont shown = font();
-    const WrappedText lines(text, shown, wrapWidth > 0 ? wrapWidth : double(kFarthest));
-    paint([&](QPainter& painter) { lines.draw(painter, QPointF(at.x(), at.y() - QFontMetrics(shown).ascent())); });
+    const WrappedText lines(text, font(), wrapWidth > 0 ? wrapWidth : double(kFarthest));
+    paint([&](QPainter& painter) { lines.draw(painter, QPointF(at.x(), at.y() - metrics().ascent())); });
 }
 
 void Graphics::DrawPicture(const Picture& picture, double x, double y)
@@ -193,27 +208,25 @@ void Graphics::DrawPicture(const Picture& picture, double x, double y)
 
 int Graphics::StringWidth(const QString& text) const
 {
-    return QFontMetrics(font()).horizontalAdvance(text);
+    return metrics().horizontalAdvance(text);
 }
 
 int Graphics::StringHeight(const QString& text, double wrapWidth) const
 {
-    const QFont measured = font();
-    const QFontMetrics metrics(measured);
     int lines = int(text.count(u'\n')) + 1;
-    if (wrapWidth > 0)
-        lines = WrappedText(text, measured, wrapWidth).lines();
-    return metrics.height() + (lines - 1) * metrics.lineSpacing();
+    if (wrapWidth > 0 && (lines > 1 || metrics().horizontalAdvance(text) > wrapWidth))
+        lines = WrappedText(text, font(), wrapWidth).lines();
+    return metrics().height() + (lines - 1) * metrics().lineSpacing();
 }
 
 int Graphics::TextHeight() const
 {
-    return QFontMetrics(font()).height();
+    return metrics().height();
 }
 
 int Graphics::TextAscent() const
 {
-    return QFontMetrics(font()).ascent();
+    return metrics().ascent();
 }
 
 int Graphics::Width() const

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
+#include <QFontMetrics>
 #include <QList>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class Picture;
-class QFont;
 class QImage;
 class QPagedPaintDevice;
 class QPainter;
@@ -36,7 +38,7 @@ public:
 
     QColor ForeColor = Qt::black;
     QString TextFont;   // a family; "" or "System" for the application's own
-    int TextSize = 0;   // 0: the system's size, 12
+    int TextSize = 0;   // 0: the system's size, 10
     bool Bold = false;
     bool Italic = false;
     bool Underline = false;
@@ -72,10 +74,23 @@ public:
     bool NextPage();
 
 private:
-    QFont font() const;
+    // The font of the present state, made again only when the state changed.
+    const QFont& font() const;
+    const QFontMetrics& metrics() const;
     bool beginPages();
     template <typename Draw> void paint(Draw draw);
 
+    struct FontState {
+        QString family;
+        int size = 0;
+        bool bold = false;
+        bool italic = false;
+        bool underline = false;
+        bool operator==(const FontState&) const = default;
+    };
+    mutable std::optional<FontState> fontState_;
+    mutable QFont font_;
+    mutable std::optional<QFontMetrics> metrics_;
     QImage* image_ = nullptr;
     std::unique_ptr<QPagedPaintDevice> pages_;
     std::unique_ptr<QPainter> pagePainter_;

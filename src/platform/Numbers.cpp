@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -311,4 +312,13 @@ QString Format(double value, QStringView pattern)
             result += i < fractionCount ? QLatin1Char(fractionDigits[i]) : QLatin1Char('0');
     }
     return result;
+}
+
+int truncated(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    constexpr double lowest = std::numeric_limits<int>::min();
+    constexpr double highest = std::numeric_limits<int>::max();
+    return int(std::trunc(std::clamp(value, lowest, highest)));
 }

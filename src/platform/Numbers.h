@@ -47,3 +47,8 @@ double readAmount(QStringView text);
 // Format(1234.0, u"########0.00") is "1234.00" (English) or "1234,00" (German);
 // Format(0.5, u"#.00") is ".50"; Format(0.0, u"#") is "".
 QString Format(double value, QStringView pattern);
+
+// A double as a whole number, cut toward zero: truncated(2.9) is 2,
+// truncated(-2.9) is -2. NaN is 0; a value beyond an int's range is the nearest
+// end of it.
+int truncated(double value);

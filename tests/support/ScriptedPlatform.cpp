@@ -1,5 +1,7 @@
 #include "support/ScriptedPlatform.h"
 
+#include <QPdfWriter>
+
 ScriptedPlatform::ScriptedPlatform()
 {
     BlockingServiceHooks hooks;
@@ -11,6 +13,18 @@ ScriptedPlatform::ScriptedPlatform()
         const MessageDialog::Button answer = answers.front();
         answers.pop_front();
         return answer;
+    };
+    hooks.pageSetupDialog = [this](PrinterSetup&) {
+        ++pageSetups;
+        return confirmPageSetup;
+    };
+    hooks.openPrinterDialog = [this](const PrinterSetup& setup) -> std::unique_ptr<Graphics> {
+        ++printerDialogs;
+        if (pdfPath.isEmpty())
+            return nullptr;
+        auto writer = std::make_unique<QPdfWriter>(pdfPath);
+        writer->setPageLayout(setup.pageLayout());
+        return std::make_unique<Graphics>(std::move(writer));
     };
     hooks.beep = [this] { ++beeps; };
     hooks.showUrl = [this](const QString& url) { urls << url; };

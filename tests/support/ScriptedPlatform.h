@@ -12,7 +12,9 @@
 
 // Replaces the blocking services for the life of a test: records every message,
 // confirmation, beep, address and quit, and answers confirmations from a script
-// (Cancel once the script runs out).
+// (Cancel once the script runs out). The page setup dialog is confirmed unless
+// the test says otherwise; the printer dialog is cancelled until the test names
+// a PDF file for the pages.
 class ScriptedPlatform {
 public:
     ScriptedPlatform();
@@ -21,6 +23,12 @@ public:
     ScriptedPlatform& operator=(const ScriptedPlatform&) = delete;
 
     void answerNextDialog(MessageDialog::Button answer) { answers.push_back(answer); }
+    // The printer dialog answers with a PDF at path (empty: it is cancelled).
+    void printToPdf(const QString& path) { pdfPath = path; }
+
+    bool confirmPageSetup = true;
+    int pageSetups = 0;                    // page setup dialogs shown
+    int printerDialogs = 0;                // printer dialogs shown
 
     QStringList messages;                  // MsgBox texts, in order
     std::vector<MessageDialog> dialogs;    // confirmations shown, in order
@@ -30,6 +38,7 @@ public:
 
 private:
     std::deque<MessageDialog::Button> answers;
+    QString pdfPath;
     BlockingServiceHooks previous;
 };
 

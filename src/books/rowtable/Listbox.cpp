@@ -255,17 +255,27 @@ void Listbox::SetCellCheck(int row, int column, bool checked)
     Q_EMIT cellChanged(row, column);
 }
 
-bool Listbox::CellBold(int row, int column) const
+bool Listbox::cellFlag(quint32 Row::*flags, int row, int column) const
 {
-    return validRow(row) && validFlagColumn(column) && (rows_[row].bolds_ >> column & 1u);
+    return validRow(row) && validFlagColumn(column) && (rows_[row].*flags >> column & 1u);
 }
 
-void Listbox::SetCellBold(int row, int column, bool bold)
+void Listbox::setCellFlag(quint32 Row::*flags, int row, int column, bool on)
 {
-    if (!validRow(row) || !validFlagColumn(column) || CellBold(row, column) == bold)
+    if (!validRow(row) || !validFlagColumn(column) || cellFlag(flags, row, column) == on)
         return;
-    rows_[row].bolds_ ^= 1u << column;
+    rows_[row].*flags ^= 1u << column;
     Q_EMIT cellChanged(row, column);
+}
+
+bool Listbox::CellBold(int row, int column) const { return cellFlag(&Row::bolds_, row, column); }
+void Listbox::SetCellBold(int row, int column, bool bold) { setCellFlag(&Row::bolds_, row, column, bold); }
+bool Listbox::CellItalic(int row, int column) const { return cellFlag(&Row::italics_, row, column); }
+void Listbox::SetCellItalic(int row, int column, bool italic) { setCellFlag(&Row::italics_, row, column, italic); }
+bool Listbox::CellUnderline(int row, int column) const { return cellFlag(&Row::underlines_, row, column); }
+void Listbox::SetCellUnderline(int row, int column, bool underline)
+{
+    setCellFlag(&Row::underlines_, row, column, underline);
 }
 
 RowPicture Listbox::rowPicture(int row) const
@@ -307,6 +317,24 @@ QString Listbox::Heading(int column) const { return settingOf(headings_, column,
 void Listbox::SetHeading(int column, const QString& heading) { setSetting(headings_, column, heading, QString()); }
 double Listbox::columnWidthPercent(int column) const { return settingOf(widths_, column, -1.0); }
 void Listbox::setColumnWidthPercent(int column, double percent) { setSetting(widths_, column, percent, -1.0); }
+int Listbox::WidthActual(int column) const { return settingOf(widthsActual_, column, 0); }
+
+void Listbox::layOutColumns(int gridWidth)
+{
+    // 5% + 30% + 12% + 3 x 18% is more than the whole: each share is scaled down.
+    double total = 0;
+    for (int column = 0; column < columnCount_; ++column)
+        total += std::max(columnWidthPercent(column), 0.0);
+    const double scale = gridWidth / std::max(total, 100.0);
+    widthsActual_.assign(columnCount_, 0);
+    for (int column = 0; column < columnCount_; ++column) {
+        const double percent = columnWidthPercent(column);
+        if (columnCount_ == 1)
+            widthsActual_[column] = gridWidth;
+        else if (percent > 0)
+            widthsActual_[column] = int(percent * scale);
+    }
+}
 
 void Listbox::SortRows(int column, Qt::SortOrder order)
 {

@@ -57,6 +57,8 @@ public:
         QVarLengthArray<quint32, 12> starts_; // start of each cell after the first
         quint32 checks_ = 0;                  // one bit a column
         quint32 bolds_ = 0;
+        quint32 italics_ = 0;
+        quint32 underlines_ = 0;
         RowPicture picture_ = RowPicture::None;
         bool selected_ = false;
     };
@@ -113,6 +115,10 @@ public:
     void SetCellCheck(int row, int column, bool checked);
     bool CellBold(int row, int column) const;
     void SetCellBold(int row, int column, bool bold);
+    bool CellItalic(int row, int column) const;
+    void SetCellItalic(int row, int column, bool italic);
+    bool CellUnderline(int row, int column) const;
+    void SetCellUnderline(int row, int column, bool underline);
     RowPicture rowPicture(int row) const;
     void SetRowPicture(int row, RowPicture picture);
 
@@ -135,6 +141,12 @@ public:
     // Width of a column in percent of the grid; below 0 when it has no width.
     double columnWidthPercent(int column) const;
     void setColumnWidthPercent(int column, double percent);
+    // Gives the columns their widths in pixels for a grid this wide, from their
+    // shares: shares that add up to more than the whole are scaled down, and a
+    // column without a share (or of 0) gets none, unless it is the only one.
+    void layOutColumns(int gridWidth);
+    // A column's width on screen in pixels, as the last layout gave it.
+    int WidthActual(int column) const;
 
     // Stable sort of the rows by the text of a column, ignoring case, as a grid
     // does when its heading is pressed. Selections move with their rows.
@@ -178,6 +190,8 @@ private:
     void clearSelectionFlags();
     void recomputeFirstSelected();
     void notifySelection();
+    bool cellFlag(quint32 Row::*flags, int row, int column) const;
+    void setCellFlag(quint32 Row::*flags, int row, int column, bool on);
     template <typename T> static T settingOf(const std::vector<T>& settings, int column, T fallback);
     template <typename T> static void setSetting(std::vector<T>& settings, int column, T value, T fallback);
 
@@ -194,6 +208,7 @@ private:
     std::vector<int> alignmentOffsets_;
     std::vector<QString> headings_;
     std::vector<double> widths_;
+    std::vector<int> widthsActual_;
     bool hasHeading_ = true;
     QString textFont_;
     int textSize_ = 0;

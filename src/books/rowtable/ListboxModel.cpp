@@ -71,7 +71,9 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const
         }
     case Qt::FontRole: {
         const bool bold = table_.CellBold(row, column);
-        if (!bold && table_.TextFont().isEmpty() && table_.TextSize() <= 0)
+        const bool italic = table_.CellItalic(row, column);
+        const bool underline = table_.CellUnderline(row, column);
+        if (!bold && !italic && !underline && table_.TextFont().isEmpty() && table_.TextSize() <= 0)
             return {};
         QFont font;
         if (!table_.TextFont().isEmpty())
@@ -79,6 +81,8 @@ QVariant ListboxModel::data(const QModelIndex& index, int role) const
         if (table_.TextSize() > 0)
             font.setPointSize(table_.TextSize());
         font.setBold(bold);
+        font.setItalic(italic);
+        font.setUnderline(underline);
         return font;
     }
     default:

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -39,11 +40,23 @@ MessageDialog::Button showMessageDialog(const MessageDialog& dialog)
     return MessageDialog::Button::Cancel;
 }
 
+bool showPageSetupDialog(PrinterSetup& setup)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageLayout(setup.pageLayout());
+    QPageSetupDialog dialog(&printer, dialogParent());
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    setup.SetupString = PrinterSetup::setupStringOf(printer.pageLayout());
+    return true;
+}
+
 // The system's printer dialog; accepted, the printer it was set to becomes the
-// surface of the pages.
-std::unique_ptr<Graphics> showPrinterDialog(const PrinterSetup&)
+// surface of the pages, on the page set up.
+std::unique_ptr<Graphics> showPrinterDialog(const PrinterSetup& setup)
 {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageLayout(setup.pageLayout());
     QPrintDialog dialog(printer.get(), dialogParent());
     if (dialog.exec() != QDialog::Accepted)
         return nullptr;
@@ -62,6 +75,7 @@ void installDesktopServices()
         box.exec();
     };
     hooks.messageDialog = showMessageDialog;
+    hooks.pageSetupDialog = showPageSetupDialog;
     hooks.openPrinterDialog = showPrinterDialog;
     hooks.beep = [] { QApplication::beep(); };
     installBlockingServices(hooks);

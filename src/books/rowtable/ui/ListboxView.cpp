@@ -78,19 +78,12 @@ void ListboxView::applyColumnSettings()
 
 void ListboxView::applyColumnWidths()
 {
-    const int available = viewport()->width();
-    // Widths are shares of the grid; shares that add up to more than the whole
-    // (5% + 30% + 12% + 3 x 18%) are scaled down to fit.
-    double total = 0;
-    for (int column = 0; column < table_.ColumnCount(); ++column)
-        total += std::max(table_.columnWidthPercent(column), 0.0);
-    const double scale = available / std::max(total, 100.0);
+    table_.layOutColumns(viewport()->width());
     for (int column = 0; column < table_.ColumnCount(); ++column) {
-        const double percent = table_.columnWidthPercent(column);
-        const bool hidden = percent <= 0 && table_.ColumnCount() > 1;
+        const bool hidden = table_.columnWidthPercent(column) <= 0 && table_.ColumnCount() > 1;
         setColumnHidden(column, hidden);
         if (!hidden)
-            setColumnWidth(column, table_.ColumnCount() == 1 ? available : int(percent * scale));
+            setColumnWidth(column, table_.WidthActual(column));
     }
 }
 

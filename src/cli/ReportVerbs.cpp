@@ -1,0 +1,99 @@
+// The ledger report window, as text or printed to a PDF file.
+#include "cli/Verbs.h"
+
+#include "books/FileStore.h"
+#include "platform/BlockingServices.h"
+#include "platform/Clock.h"
+#include "platform/Numbers.h"
+#include "reports/LedgerReport.h"
+#include "reports/ListboxPrinter.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The page setup dialog answered with its default page, and the printer dialog
+// with a PDF kept in memory until the command writes it out.
+class PdfPrinterServices {
+public:
+    PdfPrinterServices()
+    {
+        BlockingServiceHooks hooks;
+        hooks.pageSetupDialog = [](PrinterSetup&) { return true; };
+        hooks.openPrinterDialog = [this](const PrinterSetup& setup) {
+            buffer.open(QIODevice::WriteOnly);
+            auto writer = std::make_unique<QPdfWriter>(&buffer);
+            writer->setPageLayout(setup.pageLayout());
+            writer->setCreator(u"Quillmark"_s);
+            return std::make_unique<Graphics>(std::move(writer));
+        };
+        previous = installBlockingServices(hooks);
+    }
+    ~PdfPrinterServices() { installBlockingServices(previous); }
+    PdfPrinterServices(const PdfPrinterServices&) = delete;
+    PdfPrinterServices& operator=(const PdfPrinterServices&) = delete;
+
+    QByteArray pdf;
+
+private:
+    QBuffer buffer{&pdf};
+    BlockingServiceHooks previous;
+};
+
+} // namespace
+
+bool reportOptionsUsable(const QCommandLineParser& parser)
+{
+    const bool year = parser.isSet(u"year"_s);
+    const bool showYear = parser.isSet(u"show-year"_s);
+    if (year && showYear)
+        return false;
+    if (!parser.isSet(u"month"_s))
+        return true;
+    bool number = false;
+    const int month = parser.value(u"month"_s).toInt(&number);
+    return number && month >= 0 && month <= 12 && !year && !showYear;
+}
+
+int reportVerb(const Invocation& call)
+{
+    const OpenLedger ledger(call);
+    if (!ledger.open)
+        return 1;
+    const Listbox& accounts = ledger.books.accountsBox;
+    const Listbox& transactions = ledger.books.transBox;
+    Listbox report(u"ledgerbox"_s, ReportCol::Count);
+    setUpLedgerReport(report);
+    // The window opens on every month, then takes the filter asked for.
+    loadLedger(report, accounts, transactions, 0);
+    if (call.isSet(u"month"_s))
+        loadLedger(report, accounts, transactions, call.value(u"month"_s).toInt());
+    else if (call.isSet(u"year"_s))
+        loadLedgerYear(report, accounts, transactions, call.value(u"year"_s));
+    else if (call.isSet(u"show-year"_s))
+        loadLedgerYear(report, accounts, transactions, Str(Clock::today().year()));
+
+    if (call.isSet(u"pdf"_s)) {
+        report.layOutColumns(kLedgerboxWidth);
+        PdfPrinterServices printer;
+        ListboxPrinter().print(report, true);
+        const QString path = call.value(u"pdf"_s);
+        if (const FileProblem problem = replaceFile(path, printer.pdf); problem.failed())
+            return refused(call, u"couldn't write \"%1\": %2"_s.arg(path, problem.reason));
+        return 0;
+    }
+    if (report.ListCount() == 0)
+        call.out << "No transactions found\n";
+    for (int row = 0; row < report.ListCount(); ++row) {
+        for (int column = 0; column <= ReportCol::Type; ++column) {
+            if (column > 0)
+                call.out << '\t';
+            call.out << report.CellView(row, column);
+        }
+        call.out << '\n';
+    }
+    return 0;
+}
