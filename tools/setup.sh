@@ -12,8 +12,9 @@ esac
 
 cd "$(dirname "$0")/.."
 
+# poppler-utils: the printing tests read their PDFs back with pdftotext and pdftoppm.
 ./tools/install-packages.sh build-essential cmake ninja-build qt6-base-dev qt6-qpa-plugins \
-    libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core xvfb xauth
+    libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core xvfb xauth poppler-utils
 
 build=build
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo

@@ -122,9 +122,14 @@ void Graphics::paint(Draw draw)
         painter.setRenderHint(QPainter::Antialiasing, false);
         const int width = std::max(PenWidth, PenHeight);
         const bool onPaper = pages_ != nullptr;
-        painter.setPen(QPen(ForeColor, onPaper ? std::max(width, 1) : (width > 1 ? width : 0)));
-        painter.setBrush(Qt::NoBrush);
-        painter.setFont(font());
+        // Only what changed: on paper each change is written into the page.
+        const QPen pen(ForeColor, onPaper ? std::max(width, 1) : (width > 1 ? width : 0));
+        if (painter.pen() != pen)
+            painter.setPen(pen);
+        if (painter.brush().style() != Qt::NoBrush)
+            painter.setBrush(Qt::NoBrush);
+        if (painter.font() != font())
+            painter.setFont(font());
         draw(painter);
     };
     if (image_) {
@@ -133,9 +138,7 @@ void Graphics::paint(Draw draw)
         QPainter painter(image_);
         prepared(painter);
     } else if (beginPages()) {
-        pagePainter_->save();
         prepared(*pagePainter_);
-        pagePainter_->restore();
     }
 }
 

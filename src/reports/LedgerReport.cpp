@@ -1,14 +1,16 @@
 #include "reports/LedgerReport.h"
 
 #include "books/rowtable/Listbox.h"
+#include "engine/AccountIndex.h"
 #include "engine/RowLayouts.h"
 #include "platform/Dates.h"
 #include "platform/Numbers.h"
 #include "platform/TextHelpers.h"
 
-#include <QRegularExpression>
+#include <QDate>
 
 #include <functional>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -24,10 +26,29 @@ void addRow(Listbox& report, std::initializer_list<std::pair<int, QString>> cell
         report.SetCell(row, column, text);
 }
 
+// The transactions of each account row whose date belongs, in table order: a
+// transaction goes under every account whose name its own equals, ignoring case.
+std::vector<std::vector<int>> transactionsByAccount(const Listbox& accounts, const Listbox& transactions,
+                                                    const Belongs& belongs)
+{
+    std::vector<std::vector<int>> byAccount(std::max(accounts.ListCount(), 1));
+    AccountIndex index(accounts);
+    for (int k = 0; k < transactions.ListCount(); ++k) {
+        transactions.prefetchCell(k + 8, TransCol::Account);
+        const std::span<const int> owners = index.rowsNamed(transactions.CellView(k, TransCol::Account));
+        if (owners.empty() || !belongs(transactions.CellView(k, TransCol::Date)))
+            continue;
+        for (const int account : owners)
+            byAccount[account].push_back(k);
+    }
+    return byAccount;
+}
+
 // Builds the report of the transactions whose date belongs; returns whether any did.
 bool buildReport(Listbox& report, const Listbox& accounts, const Listbox& transactions, const Belongs& belongs)
 {
     report.DeleteAllRows();
+    const std::vector<std::vector<int>> byAccount = transactionsByAccount(accounts, transactions, belongs);
     bool found = false;
     if (accounts.ListCount() > 0) {
         addRow(report, {{ReportCol::Date, accounts.Cell(0, AccountCol::Number)},
@@ -44,10 +65,7 @@ bool buildReport(Listbox& report, const Listbox& accounts, const Listbox& transa
                         {ReportCol::Name, name.toString()},
                         {ReportCol::Opening, accounts.Cell(account, AccountCol::Opening)}});
         report.SetCellBold(report.LastIndex(), ReportCol::Name, true);
-        for (int k = 0; k < transactions.ListCount(); ++k) {
-            if (transactions.CellView(k, TransCol::Account).compare(name, Qt::CaseInsensitive) != 0
-                || !belongs(transactions.CellView(k, TransCol::Date)))
-                continue;
+        for (const int k : byAccount[account]) {
             found = true;
             const QString amount = transactions.Cell(k, TransCol::Transaction);
             addRow(report, {{ReportCol::Date, transactions.Cell(k, TransCol::Date)},
@@ -108,12 +126,20 @@ bool loadLedger(Listbox& report, const Listbox& accounts, const Listbox& transac
 
 bool loadLedgerYear(Listbox& report, const Listbox& accounts, const Listbox& transactions, const QString& yearText)
 {
-    static const QRegularExpression form(u"^\\d{4}-\\d{2}-\\d{2}$"_s);
     return buildReport(report, accounts, transactions, [&yearText](QStringView date) {
-        if (!form.match(date.toString()).hasMatch())
+        const auto digits = [&date](int from, int count) {
+            int number = 0;
+            for (int i = from; i < from + count; ++i) {
+                if (date[i] < u'0' || date[i] > u'9')
+                    return -1;
+                number = number * 10 + (date[i].unicode() - u'0');
+            }
+            return number;
+        };
+        if (date.size() != 10 || date[4] != u'-' || date[7] != u'-')
             return false;
-        const QDate day = QDate::fromString(date.toString(), u"yyyy-MM-dd"_s);
-        return day.isValid() && Str(day.year()) == yearText;
+        const int year = digits(0, 4);
+        return QDate::isValid(year, digits(5, 2), digits(8, 2)) && Str(year) == yearText;
     });
 }
 

@@ -452,3 +452,61 @@ TEST_F(CommandLineTest, ChartWritesTheCanvasAsPngAndPrintsThePiesLegend)
     EXPECT_FALSE(fileExists(none));
     EXPECT_EQ(files(), before) << "the ledgers as they were";
 }
+
+TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheLedgerReportOrItsPdf)
+{
+    const auto files = [this] {
+        return std::pair{QDir(home.quillmark()).entryList(QDir::Files), readBytes(book(u"  ShopTransData"_s))};
+    };
+    const auto before = files();
+    // Amounts as stored; "-40,00" is a withdrawal of 40 by Val.
+    const QString whole = u"\tBalance\t\t100.00\t-40.00\t12.50\t\t\n"
+                          " \t\t\t\t\t\t\t\n"
+                          "   \tSales\t\t5,5\t\t\t\t\n"
+                          "2014-03-09\t\tSale\t\t\t12.50\t\t\n"
+                          " \t\t\t\t\t\t\tRevenue\n"
+                          "   \tRent\t\t\t\t\t\t\n"
+                          "2014-03-10\t\tMarch\t\t-40,00\t\t\t\n"
+                          " \t\t\t\t\t\t\tExpense\n"_s;
+    CliRun run = runCli(data() << u"report"_s << u"shop"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, whole);
+    EXPECT_EQ(runCli(data() << u"report"_s << u"Shop"_s << u"--month"_s << u"3"_s).out, whole);
+    EXPECT_EQ(runCli(data() << u"report"_s << u"Shop"_s << u"--year"_s << u"2014"_s).out, whole);
+    EXPECT_EQ(runCli(data() << u"report"_s << u"Shop"_s << u"--show-year"_s).out, whole) << "2014 by --today";
+    for (const QStringList& nothing : {QStringList{u"--month"_s, u"2"_s}, QStringList{u"--year"_s, u" 2014"_s}}) {
+        run = runCli(data() << u"report"_s << u"Shop"_s << nothing);
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.out, u"No transactions found\n");
+    }
+    // A year later the monthly rent has posted its rows, none of them in 2015.
+    run = runCli({u"--data"_s, home.path(), u"--today"_s, u"2015-01-01"_s, u"report"_s, u"Shop"_s, u"--show-year"_s});
+    EXPECT_EQ(run.out, u"No transactions found\n");
+
+    const QString pdf = home.path() + u"/report.pdf"_s;
+    run = runCli(data() << u"report"_s << u"Shop"_s << u"--month"_s << u"3"_s << u"--pdf"_s << pdf);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, u"");
+    QProcess text;
+    text.start(u"pdftotext"_s, {pdf, u"-"_s});
+    ASSERT_TRUE(text.waitForFinished(30000));
+    const QString printed = QString::fromUtf8(text.readAllStandardOutput());
+    for (const QString& shown : {u"Withdrawal"_s, u"March"_s, u"-40,00"_s, u"Revenue"_s})
+        EXPECT_EQ(printed.contains(shown), shown != u"Revenue") << shown.toStdString() << " (the hidden cell isn't printed)";
+
+    const QList<std::pair<QStringList, int>> refusals{
+        {{u"report"_s, u"Garage"_s}, 1},
+        {{u"report"_s, u"Shop"_s, u"--pdf"_s, home.path() + u"/no/such/folder.pdf"_s}, 1},
+        {{u"report"_s, u"Shop"_s, u"--month"_s, u"13"_s}, 2},
+        {{u"report"_s, u"Shop"_s, u"--month"_s, u"March"_s}, 2},
+        {{u"report"_s, u"Shop"_s, u"--month"_s, u"3"_s, u"--year"_s, u"2014"_s}, 2},
+        {{u"report"_s, u"Shop"_s, u"--month"_s, u"3"_s, u"--show-year"_s}, 2},
+        {{u"report"_s, u"Shop"_s, u"--year"_s, u"2014"_s, u"--show-year"_s}, 2},
+    };
+    for (const auto& [arguments, status] : refusals) {
+        run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, status) << arguments.join(u' ').toStdString();
+        EXPECT_FALSE(run.err.isEmpty());
+    }
+    EXPECT_EQ(files(), before) << "nothing written in the data folder";
+}

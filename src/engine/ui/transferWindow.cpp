@@ -60,6 +60,13 @@ transferWindow::transferWindow(SummaryBooks& books, QWidget* parent)
     Timer1->start();
 }
 
+transferWindow::~transferWindow()
+{
+    // The grids go before the tables they show, which are members of this window.
+    delete ListBox1;
+    delete ListBox2;
+}
+
 void transferWindow::Timer1_Action()
 {
     fillTransferList(ListBox1Table, books_.accountsBox);

@@ -106,6 +106,12 @@ ledgerWindow::ledgerWindow(const Listbox& accounts, const Listbox& transactions,
     loadLedger();
 }
 
+ledgerWindow::~ledgerWindow()
+{
+    // The grids go before the tables they show, which are members of this window.
+    delete ledgerbox;
+}
+
 void ledgerWindow::loadLedger()
 {
     showNotice(!::loadLedger(ledgerboxTable, accounts_, transactions_, PopupMenu1->currentIndex()));

@@ -1,0 +1,244 @@
+// The grid printer, printing to PDF through the printer hook; what it printed
+// is read back with pdftotext -bbox (where each word stands, in points from the
+// top left of its page) and pdftoppm (its pixels).
+#include "books/rowtable/Listbox.h"
+#include "reports/ListboxPrinter.h"
+#include "support/ScriptedPlatform.h"
+
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A4 with half an inch all round.
+constexpr double kMargin = 36;
+constexpr double kPageHeight = 842;
+
+struct Word {
+    int page = 0;
+    QRectF box;
+    QString text;
+};
+
+QList<Word> wordsOf(const QString& pdf)
+{
+    QProcess process;
+    process.start(u"pdftotext"_s, {u"-bbox"_s, pdf, u"-"_s});
+    EXPECT_TRUE(process.waitForFinished(60000));
+    static const QRegularExpression word(
+        uR"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">(.*)</word>)re"_s);
+    QList<Word> words;
+    int page = 0;
+    for (const QString& line : QString::fromUtf8(process.readAllStandardOutput()).split(u'\n')) {
+        if (line.contains(u"<page "))
+            ++page;
+        const QRegularExpressionMatch found = word.match(line);
+        if (found.hasMatch())
+            words.push_back({page, QRectF(QPointF(found.captured(1).toDouble(), found.captured(2).toDouble()),
+                                          QPointF(found.captured(3).toDouble(), found.captured(4).toDouble())),
+                             found.captured(5)});
+    }
+    return words;
+}
+
+int pagesOf(const QList<Word>& words)
+{
+    int pages = 0;
+    for (const Word& word : words)
+        pages = std::max(pages, word.page);
+    return pages;
+}
+
+QList<Word> named(const QList<Word>& words, const QString& text)
+{
+    QList<Word> found;
+    for (const Word& word : words)
+        if (word.text == text)
+            found << word;
+    return found;
+}
+
+// The first page at 72 dots an inch: a pixel a point.
+QImage firstPage(const QString& pdf, const QString& folder)
+{
+    QProcess::execute(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-f"_s, u"1"_s, u"-l"_s, u"1"_s, u"-png"_s, pdf,
+                                      folder + u"/page"_s});
+    return QImage(folder + u"/page-1.png"_s);
+}
+
+class ListboxPrinterTest : public ::testing::Test {
+protected:
+    ListboxPrinterTest()
+    {
+        pdf = folder.path() + u"/grid.pdf"_s;
+        platform.printToPdf(pdf);
+    }
+
+    // A grid of three columns, 20%, 30% and 50% of 400 pixels, with a row for
+    // each text.
+    static void fill(Listbox& grid, const QStringList& firstCells)
+    {
+        const QStringList headings{u"Alpha"_s, u"Beta"_s, u"Gamma"_s};
+        const double shares[] = {20, 30, 50};
+        for (int column = 0; column < 3; ++column) {
+            grid.SetHeading(column, headings[column]);
+            grid.setColumnWidthPercent(column, shares[column]);
+        }
+        grid.layOutColumns(400);
+        for (const QString& text : firstCells) {
+            grid.AddRow(text);
+            grid.SetCell(grid.LastIndex(), 1, u"b"_s);
+        }
+    }
+
+    static QStringList numbered(int count)
+    {
+        QStringList texts;
+        for (int i = 1; i <= count; ++i)
+            texts << u"r%1"_s.arg(i, 4, 10, QChar(u'0'));
+        return texts;
+    }
+
+    QTemporaryDir folder;
+    QString pdf;
+    ScriptedPlatform platform;
+};
+
+} // namespace
+
+TEST_F(ListboxPrinterTest, EveryRowOnceUnderTheHeadingsOfEveryPage)
+{
+    Listbox grid(u"grid"_s, 3);
+    fill(grid, numbered(300));
+    ListboxPrinter().print(grid, true);
+    EXPECT_EQ(platform.pageSetups, 1);
+    EXPECT_EQ(platform.printerDialogs, 1);
+    const QList<Word> words = wordsOf(pdf);
+    const int pages = pagesOf(words);
+    ASSERT_GT(pages, 3);
+
+    QList<int> rowsOnPage(pages + 1);
+    for (const QString& text : numbered(300)) {
+        const QList<Word> row = named(words, text);
+        ASSERT_EQ(row.size(), 1) << text.toStdString();
+        ++rowsOnPage[row[0].page];
+        EXPECT_LT(row[0].box.bottom(), kPageHeight - kMargin + 3) << "inside the printable area";
+    }
+    const int perPage = rowsOnPage[1];
+    for (int page = 1; page <= pages; ++page) {
+        SCOPED_TRACE(testing::Message() << "page " << page);
+        for (const QString& heading : {u"Alpha"_s, u"Beta"_s, u"Gamma"_s}) {
+            const QList<Word> onPage = named(words, heading);
+            EXPECT_EQ(std::count_if(onPage.begin(), onPage.end(), [&](const Word& w) { return w.page == page; }), 1);
+        }
+        if (page < pages)
+            EXPECT_EQ(rowsOnPage[page], perPage);
+    }
+    // The headings at the top of the page's printable area, the rows below them;
+    // a full page filled to within two rows of its foot.
+    const Word first = named(words, u"r0001"_s)[0];
+    const Word alpha = named(words, u"Alpha"_s)[0];
+    EXPECT_NEAR(alpha.box.top(), kMargin, 2);
+    EXPECT_GT(first.box.top(), alpha.box.bottom());
+    const Word lastOfPage = named(words, numbered(300)[perPage - 1])[0];
+    const double pitch = named(words, u"r0002"_s)[0].box.top() - first.box.top();
+    EXPECT_GT(lastOfPage.box.bottom(), kPageHeight - kMargin - 2 * pitch);
+
+    // Exactly the rows a page holds: the last one ends the page, and the next
+    // page has the headings alone. One row fewer fits on one page.
+    Listbox full(u"full"_s, 3);
+    fill(full, numbered(perPage));
+    ListboxPrinter().print(full, true);
+    const QList<Word> fullWords = wordsOf(pdf);
+    EXPECT_EQ(pagesOf(fullWords), 2);
+    EXPECT_EQ(std::count_if(fullWords.begin(), fullWords.end(), [](const Word& w) { return w.page == 2; }), 3);
+    Listbox fewer(u"fewer"_s, 3);
+    fill(fewer, numbered(perPage - 1));
+    ListboxPrinter().print(fewer, true);
+    EXPECT_EQ(pagesOf(wordsOf(pdf)), 1);
+}
+
+TEST_F(ListboxPrinterTest, WideHeadingsAndCellsStartAtTheirColumnAndAZeroColumnTakesNoRoom)
+{
+    // 100, 0 and 300 points wide, unscaled.
+    Listbox grid(u"grid"_s, 3);
+    grid.SetHeading(0, u"A heading far wider than its column"_s);
+    grid.SetHeading(1, u"Zero"_s);
+    grid.SetHeading(2, u"Right"_s);
+    grid.setColumnWidthPercent(0, 25);
+    grid.setColumnWidthPercent(1, 0);
+    grid.setColumnWidthPercent(2, 75);
+    grid.layOutColumns(400);
+    grid.SetColumnAlignment(0, Listbox::AlignRight);
+    grid.SetColumnAlignment(2, Listbox::AlignRight);
+    grid.AddRow(u"Averyveryverywidecellwithoutanybreaksatallinit"_s);
+    grid.SetCell(0, 1, u"zero"_s);
+    grid.SetCell(0, 2, u"right"_s);
+    grid.AddRow(u"short"_s);
+    grid.SetCellBold(1, 0, true);
+    ListboxPrinter().print(grid, false);
+    const QList<Word> words = wordsOf(pdf);
+
+    // The wide heading starts 3 in and wraps at the column's width.
+    const QList<Word> heading = named(words, u"A"_s) + named(words, u"heading"_s) + named(words, u"column"_s);
+    ASSERT_EQ(heading.size(), 3);
+    EXPECT_NEAR(heading[0].box.left(), kMargin + 3, 1);
+    EXPECT_GT(heading[2].box.top(), heading[0].box.top()) << "on a line below";
+    for (const Word& word : heading)
+        EXPECT_LT(word.box.right(), kMargin + 103);
+    // "Right" centred over its 300 points, which begin where column 0 ends.
+    const Word right = named(words, u"Right"_s).value(0);
+    EXPECT_NEAR(right.box.center().x(), kMargin + 100 + 150, 1.5);
+    // The zero-width column: its heading and its cell 3 in from the same edge,
+    // neither wrapped.
+    EXPECT_NEAR(named(words, u"Zero"_s).value(0).box.left(), kMargin + 103, 1);
+    EXPECT_NEAR(named(words, u"zero"_s).value(0).box.left(), kMargin + 103, 1);
+    // A right-aligned cell wider than its column starts at its left edge.
+    const auto wide = std::find_if(words.begin(), words.end(), [](const Word& w) { return w.text.startsWith(u"Avery"); });
+    ASSERT_NE(wide, words.end());
+    EXPECT_NEAR(wide->box.left(), kMargin, 1);
+    EXPECT_LT(wide->box.right(), kMargin + 101) << "and wraps";
+    EXPECT_NEAR(named(words, u"right"_s).value(0).box.right(), kMargin + 400, 1);
+
+    // The band under row 0 only, the rules the full height of the page.
+    const QImage page = firstPage(pdf, folder.path());
+    ASSERT_FALSE(page.isNull());
+    const int row0 = int(named(words, u"zero"_s).value(0).box.center().y());
+    const int row1 = int(named(words, u"short"_s).value(0).box.center().y());
+    EXPECT_EQ(page.pixelColor(int(kMargin) + 350, row0), QColor(245, 245, 245));
+    EXPECT_EQ(page.pixelColor(int(kMargin) + 350, row1), QColor(Qt::white));
+    EXPECT_EQ(page.pixelColor(int(kMargin) + 350, 700), QColor(Qt::white));
+    int darkest = 255;
+    for (int x = int(kMargin) + 98; x <= int(kMargin) + 102; ++x)
+        darkest = std::min(darkest, page.pixelColor(x, 800).red());
+    EXPECT_LT(darkest, 240) << "a rule between the columns, down to the foot of the page";
+}
+
+TEST_F(ListboxPrinterTest, CancellingEitherDialogPrintsNothingAndAnEmptyGridItsHeadings)
+{
+    Listbox grid(u"grid"_s, 3);
+    fill(grid, {u"one"_s});
+    platform.confirmPageSetup = false;
+    ListboxPrinter().print(grid, true);
+    EXPECT_EQ(platform.printerDialogs, 0);
+    platform.confirmPageSetup = true;
+    platform.printToPdf({});
+    ListboxPrinter().print(grid, true);
+    EXPECT_EQ(platform.printerDialogs, 1);
+    EXPECT_FALSE(QFile::exists(pdf));
+
+    platform.printToPdf(pdf);
+    Listbox empty(u"empty"_s, 3);
+    fill(empty, {});
+    ListboxPrinter().print(empty, true);
+    const QList<Word> words = wordsOf(pdf);
+    EXPECT_EQ(pagesOf(words), 1);
+    EXPECT_EQ(words.size(), 3);
+}
