@@ -42,7 +42,16 @@ public:
     }
 
     int lines() const { return lines_; }
-    void draw(QPainter& painter, QPointF topLeft) const { layout_.draw(&painter, topLeft); }
+    // The lines whose top lies within [top, bottom) of the surface.
+    void draw(QPainter& painter, QPointF topLeft, double top, double bottom) const
+    {
+        for (int i = 0; i < layout_.lineCount(); ++i) {
+            const QTextLine line = layout_.lineAt(i);
+            const double lineTop = topLeft.y() + line.y();
+            if (lineTop >= top && lineTop < bottom)
+                line.draw(&painter, topLeft);
+        }
+    }
 
 private:
     QTextLayout layout_;
@@ -114,6 +123,19 @@ const QFontMetrics& Graphics::metrics() const
     return *metrics_;
 }
 
+int Graphics::advance(const QString& text) const
+{
+    // A printed cell is measured for its row's height, its own height, its
+    // place and its wrapping: the widths of the last few texts are kept.
+    font();
+    for (const MeasuredText& measured : measured_)
+        if (measured.state == fontState_ && measured.text == text)
+            return measured.width;
+    MeasuredText& slot = measured_[nextMeasured_++ % measured_.size()];
+    slot = {*fontState_, text, metrics_->horizontalAdvance(text)};
+    return slot.width;
+}
+
 template <typename Draw>
 void Graphics::paint(Draw draw)
 {
@@ -130,6 +152,10 @@ void Graphics::paint(Draw draw)
             painter.setBrush(Qt::NoBrush);
         if (painter.font() != font())
             painter.setFont(font());
+        if (clip_)
+            painter.setClipRect(*clip_);
+        else if (painter.hasClipping())
+            painter.setClipping(false);
         draw(painter);
     };
     if (image_) {
@@ -195,13 +221,19 @@ void Graphics::DrawString(const QString& text, double x, double y, double wrapWi
     if (text.isEmpty())
         return;
     const QPoint at(surfaceUnit(x), surfaceUnit(y));
-    const bool oneLine = !text.contains(u'\n') && (wrapWidth <= 0 || metrics().horizontalAdvance(text) <= wrapWidth);
+    // Under a clip, only the lines that begin inside it: a line cut in two
+    // would show half on one page and half on the next.
+    const double top = clip_ ? clip_->top() : -double(kFarthest);
+    const double bottom = clip_ ? clip_->top() + clip_->height() : double(kFarthest);
+    const bool oneLine = !text.contains(u'\n') && (wrapWidth <= 0 || advance(text) <= wrapWidth);
     if (oneLine) {
-        paint([&](QPainter& painter) { painter.drawText(at, text); });
+        const int lineTop = at.y() - metrics().ascent();
+        if (lineTop >= top && lineTop < bottom)
+            paint([&](QPainter& painter) { painter.drawText(at, text); });
         return;
     }
     const WrappedText lines(text, font(), wrapWidth > 0 ? wrapWidth : double(kFarthest));
-    paint([&](QPainter& painter) { lines.draw(painter, QPointF(at.x(), at.y() - metrics().ascent())); });
+    paint([&](QPainter& painter) { lines.draw(painter, QPointF(at.x(), at.y() - metrics().ascent()), top, bottom); });
 }
 
 void Graphics::DrawPicture(const Picture& picture, double x, double y)
@@ -211,13 +243,13 @@ void Graphics::DrawPicture(const Picture& picture, double x, double y)
 
 int Graphics::StringWidth(const QString& text) const
 {
-    return metrics().horizontalAdvance(text);
+    return advance(text);
 }
 
 int Graphics::StringHeight(const QString& text, double wrapWidth) const
 {
     int lines = int(text.count(u'\n')) + 1;
-    if (wrapWidth > 0 && (lines > 1 || metrics().horizontalAdvance(text) > wrapWidth))
+    if (wrapWidth > 0 && (lines > 1 || advance(text) > wrapWidth))
         lines = WrappedText(text, font(), wrapWidth).lines();
     return metrics().height() + (lines - 1) * metrics().lineSpacing();
 }

@@ -4,8 +4,10 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QList>
+#include <QRect>
 #include <QString>
 
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -73,10 +75,16 @@ public:
     // print job has failed.
     bool NextPage();
 
+    // Drawing shows only inside this rectangle until the clip is cleared; of a
+    // text, only the lines that begin inside it.
+    void setClip(const QRect& area) { clip_ = area; }
+    void clearClip() { clip_.reset(); }
+
 private:
     // The font of the present state, made again only when the state changed.
     const QFont& font() const;
     const QFontMetrics& metrics() const;
+    int advance(const QString& text) const;
     bool beginPages();
     template <typename Draw> void paint(Draw draw);
 
@@ -91,6 +99,14 @@ private:
     mutable std::optional<FontState> fontState_;
     mutable QFont font_;
     mutable std::optional<QFontMetrics> metrics_;
+    struct MeasuredText {
+        FontState state;
+        QString text;
+        int width = 0;
+    };
+    mutable std::array<MeasuredText, 8> measured_;
+    mutable size_t nextMeasured_ = 0;
+    std::optional<QRect> clip_;
     QImage* image_ = nullptr;
     std::unique_ptr<QPagedPaintDevice> pages_;
     std::unique_ptr<QPainter> pagePainter_;

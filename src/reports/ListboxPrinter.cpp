@@ -5,6 +5,8 @@
 #include "platform/Graphics.h"
 #include "platform/PrinterSetup.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kRowGap = 2;
@@ -39,30 +41,75 @@ void ListboxPrinter::printRows(Graphics& g, const PrinterSetup& setup, bool fitT
     }
     QList<int> positions;
     int y = printHeaders(0, g, scale, positions) + kBelowHeadings;
+    QList<int> widths;
     // A grid without headings has its cells at the same places all the same.
-    QList<int> cellPositions = positions;
-    if (cellPositions.isEmpty()) {
-        int x = 0;
-        for (int column = 0; column < grid.ColumnCount(); ++column) {
-            cellPositions << x;
-            x += int(grid.WidthActual(column) * scale);
-        }
+    QList<int> cellPositions;
+    for (int column = 0, x = 0; column < grid.ColumnCount(); ++column) {
+        widths << int(grid.WidthActual(column) * scale);
+        cellPositions << x;
+        x += widths.last();
     }
+    if (!positions.isEmpty())
+        cellPositions = positions;
+    const auto nextPage = [&] {
+        drawColumnRules(g, positions);
+        g.NextPage();
+        y = printHeaders(0, g, scale, positions) + kBelowHeadings;
+    };
     for (int row = 0; row < grid.ListCount(); ++row) {
-        int rowHeight = 0;
-        for (int column = 0; column < grid.ColumnCount(); ++column) {
-            int height = 0;
-            printCell(row, column, g, cellPositions[column], y, int(grid.WidthActual(column) * scale), height);
-            rowHeight = std::max(rowHeight, height);
+        const int height = rowHeight(row, g, widths);
+        // A row of more lines than the page has room for goes on over the next
+        // pages, a whole number of its lines on each, so no text falls off the
+        // foot of a page. A row of one line stays whole, as the system prints it.
+        const int pitch = std::max(g.StringHeight(u"\n"_s, 0) - g.TextHeight(), 1);
+        int shown = 0;
+        for (;;) {
+            const int room = setup.Height() - y;
+            const int top = y - shown; // where the row begins, as this page reckons
+            if (shown > 0)
+                g.setClip(QRect(0, y, g.Width(), setup.Height() + height));
+            if (height - shown <= std::max(room, pitch)) {
+                for (int column = 0; column < grid.ColumnCount(); ++column) {
+                    int cellHeight = 0;
+                    printCell(row, column, g, cellPositions[column], top, widths[column], cellHeight);
+                }
+                g.clearClip();
+                y = top + height + kRowGap;
+                break;
+            }
+            const int visible = std::max(room / pitch, 1) * pitch;
+            g.setClip(QRect(0, y, g.Width(), visible));
+            for (int column = 0; column < grid.ColumnCount(); ++column) {
+                int cellHeight = 0;
+                printCell(row, column, g, cellPositions[column], top, widths[column], cellHeight);
+            }
+            g.clearClip();
+            shown += visible;
+            nextPage();
         }
-        y += rowHeight + kRowGap;
-        if (y + g.TextAscent() > setup.Height()) {
-            drawColumnRules(g, positions);
-            g.NextPage();
-            y = printHeaders(0, g, scale, positions) + kBelowHeadings;
-        }
+        if (y + g.TextAscent() > setup.Height())
+            nextPage();
     }
     drawColumnRules(g, positions);
+}
+
+void ListboxPrinter::setCellFont(int row, int column, Graphics& g) const
+{
+    g.TextFont = source->TextFont();
+    g.TextSize = source->TextSize();
+    g.Bold = source->CellBold(row, column);
+    g.Italic = source->CellItalic(row, column);
+    g.Underline = source->CellUnderline(row, column);
+}
+
+int ListboxPrinter::rowHeight(int row, Graphics& g, const QList<int>& widths)
+{
+    int height = 0;
+    for (int column = 0; column < source->ColumnCount(); ++column) {
+        setCellFont(row, column, g);
+        height = std::max({height, g.StringHeight(source->Cell(row, column), widths[column]), g.TextHeight()});
+    }
+    return height;
 }
 
 int ListboxPrinter::printHeaders(int first, Graphics& g, float scale, QList<int>& positions)
@@ -97,11 +144,7 @@ void ListboxPrinter::printCell(int row, int column, Graphics& g, int x, int y, i
 {
     const Listbox& grid = *source;
     const QString text = grid.Cell(row, column);
-    g.TextFont = grid.TextFont();
-    g.TextSize = grid.TextSize();
-    g.Bold = grid.CellBold(row, column);
-    g.Italic = grid.CellItalic(row, column);
-    g.Underline = grid.CellUnderline(row, column);
+    setCellFont(row, column, g);
     height = std::max(g.StringHeight(text, width), g.TextHeight());
     // The band lies under each cell, as high as that cell's own text.
     if (row % 2 == 0) {

@@ -36,5 +36,7 @@ protected:
 
 private:
     void printRows(Graphics& g, const PrinterSetup& setup, bool fitToPage);
+    void setCellFont(int row, int column, Graphics& g) const;
+    int rowHeight(int row, Graphics& g, const QList<int>& widths);
     void drawColumnRules(Graphics& g, const QList<int>& positions) const;
 };

@@ -242,3 +242,30 @@ TEST_F(ListboxPrinterTest, CancellingEitherDialogPrintsNothingAndAnEmptyGridItsH
     EXPECT_EQ(pagesOf(words), 1);
     EXPECT_EQ(words.size(), 3);
 }
+
+TEST_F(ListboxPrinterTest, ACellLongerThanThePageGoesOnOverTheNextPagesLineByLine)
+{
+    Listbox grid(u"grid"_s, 3);
+    QStringList words;
+    for (int i = 1; i <= 400; ++i)
+        words << u"w%1"_s.arg(i, 3, 10, QChar(u'0'));
+    fill(grid, {u"before"_s, words.join(u' '), u"after"_s});
+    ListboxPrinter().print(grid, true);
+    const QList<Word> printed = wordsOf(pdf);
+    ASSERT_GT(pagesOf(printed), 2);
+    double previousTop = 0;
+    int previousPage = 1;
+    for (const QString& word : words) {
+        const QList<Word> found = named(printed, word);
+        ASSERT_EQ(found.size(), 1) << word.toStdString();
+        const Word& w = found[0];
+        EXPECT_LT(w.box.bottom(), kPageHeight - kMargin + 3) << word.toStdString();
+        // Below the headings of its page, and after the word before it.
+        EXPECT_GT(w.box.top(), named(printed, u"Alpha"_s)[0].box.bottom()) << word.toStdString();
+        EXPECT_TRUE(w.page > previousPage || (w.page == previousPage && w.box.top() >= previousTop))
+            << word.toStdString();
+        previousTop = w.box.top();
+        previousPage = w.page;
+    }
+    EXPECT_EQ(named(printed, u"after"_s).value(0).page, previousPage);
+}
