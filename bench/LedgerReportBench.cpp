@@ -9,7 +9,6 @@
 #include "reports/ListboxPrinter.h"
 
 #include <QBuffer>
-#include <QPdfWriter>
 
 #include <benchmark/benchmark.h>
 
@@ -43,9 +42,7 @@ public:
         hooks.openPrinterDialog = [this](const PrinterSetup& setup) {
             pdf.clear();
             buffer.open(QIODevice::WriteOnly);
-            auto writer = std::make_unique<QPdfWriter>(&buffer);
-            writer->setPageLayout(setup.pageLayout());
-            return std::make_unique<Graphics>(std::move(writer));
+            return pdfPages(&buffer, setup);
         };
         previous = installBlockingServices(hooks);
     }

@@ -9,7 +9,6 @@
 #include "reports/ListboxPrinter.h"
 
 #include <QBuffer>
-#include <QPdfWriter>
 
 using namespace Qt::StringLiterals;
 
@@ -25,10 +24,7 @@ public:
         hooks.pageSetupDialog = [](PrinterSetup&) { return true; };
         hooks.openPrinterDialog = [this](const PrinterSetup& setup) {
             buffer.open(QIODevice::WriteOnly);
-            auto writer = std::make_unique<QPdfWriter>(&buffer);
-            writer->setPageLayout(setup.pageLayout());
-            writer->setCreator(u"Quillmark"_s);
-            return std::make_unique<Graphics>(std::move(writer));
+            return pdfPages(&buffer, setup);
         };
         previous = installBlockingServices(hooks);
     }

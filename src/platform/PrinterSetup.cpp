@@ -1,6 +1,9 @@
 #include "platform/PrinterSetup.h"
 
 #include "platform/BlockingServices.h"
+#include "platform/Graphics.h"
+
+#include <QPdfWriter>
 
 #include <QRectF>
 #include <QRegularExpression>
@@ -10,6 +13,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kHalfInch = 36;
+
+std::unique_ptr<Graphics> pagesOf(std::unique_ptr<QPdfWriter> writer, const PrinterSetup& setup)
+{
+    writer->setPageLayout(setup.pageLayout());
+    writer->setCreator(u"Quillmark"_s);
+    return std::make_unique<Graphics>(std::move(writer));
+}
 
 QPageLayout defaultPage()
 {
@@ -68,3 +78,14 @@ QString PrinterSetup::setupStringOf(const QPageLayout& layout)
         .arg(margins.right())
         .arg(margins.bottom());
 }
+
+std::unique_ptr<Graphics> pdfPages(QIODevice* device, const PrinterSetup& setup)
+{
+    return pagesOf(std::make_unique<QPdfWriter>(device), setup);
+}
+
+std::unique_ptr<Graphics> pdfPages(const QString& path, const PrinterSetup& setup)
+{
+    return pagesOf(std::make_unique<QPdfWriter>(path), setup);
+}
+

@@ -3,6 +3,11 @@
 #include <QPageLayout>
 #include <QString>
 
+#include <memory>
+
+class Graphics;
+class QIODevice;
+
 // The page a print job is set up for. Its text, SetupString, is what a page
 // setup keeps: the paper's width and height in points as it stands upright,
 // the orientation, and the margins in points ("595x842 portrait 36 36 36 36").
@@ -22,3 +27,10 @@ public:
     QPageLayout pageLayout() const;
     static QString setupStringOf(const QPageLayout& layout);
 };
+
+// Pages of a PDF on this page setup, written to the device (open for writing,
+// and kept by the caller) or to the file at path, as a printer that writes PDF
+// gives them.
+std::unique_ptr<Graphics> pdfPages(QIODevice* device, const PrinterSetup& setup);
+std::unique_ptr<Graphics> pdfPages(const QString& path, const PrinterSetup& setup);
+

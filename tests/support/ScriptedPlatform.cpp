@@ -1,7 +1,5 @@
 #include "support/ScriptedPlatform.h"
 
-#include <QPdfWriter>
-
 ScriptedPlatform::ScriptedPlatform()
 {
     BlockingServiceHooks hooks;
@@ -22,9 +20,7 @@ ScriptedPlatform::ScriptedPlatform()
         ++printerDialogs;
         if (pdfPath.isEmpty())
             return nullptr;
-        auto writer = std::make_unique<QPdfWriter>(pdfPath);
-        writer->setPageLayout(setup.pageLayout());
-        return std::make_unique<Graphics>(std::move(writer));
+        return pdfPages(pdfPath, setup);
     };
     hooks.beep = [this] { ++beeps; };
     hooks.showUrl = [this](const QString& url) { urls << url; };
