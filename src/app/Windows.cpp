@@ -9,6 +9,7 @@
 #include "engine/ui/TransactionWindow.h"
 #include "engine/ui/transferWindow.h"
 #include "mainwindow/SummaryWindow.h"
+#include "reports/ui/indAccWindow.h"
 #include "reports/ui/ledgerWindow.h"
 #include "update/ui/AboutWindow.h"
 
@@ -55,6 +56,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
             .newBookWindow = &Windows::newBookWindow,
             .chartingWindow = &Windows::chartingWindow,
             .ledgerWindow = &Windows::ledgerWindow,
+            .indAccWindow = &Windows::indAccWindow,
         });
         App::AddMenuHandlers(*window->menuBar());
         return window;
@@ -103,6 +105,15 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         ::SummaryWindow* summary = Windows::SummaryWindow();
         return new ::ledgerWindow(summary->books().accountsBox, summary->books().transBox, summary);
+    });
+}
+
+::indAccWindow* Windows::indAccWindow()
+{
+    static QPointer<::indAccWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        return new ::indAccWindow(summary->books(), &Windows::TransactionWindow, summary);
     });
 }
 

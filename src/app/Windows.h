@@ -15,6 +15,7 @@ class TransactionWindow;
 class transferWindow;
 class chartingWindow;
 class ledgerWindow;
+class indAccWindow;
 
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
@@ -47,4 +48,5 @@ namespace Windows {
 ::transferWindow* transferWindow();
 ::chartingWindow* chartingWindow();
 ::ledgerWindow* ledgerWindow();
+::indAccWindow* indAccWindow();
 } // namespace Windows

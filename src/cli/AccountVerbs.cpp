@@ -23,8 +23,8 @@ int accountRow(const SummaryBooks& books, const QString& name)
     return -1;
 }
 
-// The account named by the verb's second word, selected as a click selects it;
-// -1 (refusal printed) when the ledger has none of that name.
+} // namespace
+
 int selectAccount(const Invocation& call, SummaryBooks& books)
 {
     const int row = accountRow(books, call.words[2]);
@@ -35,8 +35,6 @@ int selectAccount(const Invocation& call, SummaryBooks& books)
     books.accountsBox.SetListIndex(row);
     return row;
 }
-
-} // namespace
 
 int newLedger(const Invocation& call)
 {

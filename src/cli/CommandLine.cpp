@@ -71,6 +71,18 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] C
                       "                 \"No transactions found\". With --pdf it presses the print button\n"
                       "                 instead: the report, fitted to an A4 page, goes to the PDF FILE.\n"
                       "                 Writes nothing in the data folder.\n"
+                      "  account NAME ACCOUNT [--from DAY] [--to DAY]\n"
+                      "                 The transactions window of the account ACCOUNT (not the Base\n"
+                      "                 Account): each line of its list, columns 0 to 9 tab-separated (8 is\n"
+                      "                 the transaction's row in transBox, counted from 0), then \"Balance:\",\n"
+                      "                 a tab and the balance label. With --from or --to (any date form the\n"
+                      "                 program reads; the other stays today) the range is applied: the\n"
+                      "                 lines strictly after the first day and before the second stay, and\n"
+                      "                 the label shows their total. Writes nothing.\n"
+                      "  print NAME --what accounts|transactions|both --pdf FILE\n"
+                      "                 The Print/Save item of that name, printed on the default page (A4)\n"
+                      "                 into the PDF FILE under the main window's title \"Quillmark\".\n"
+                      "                 Writes nothing in the data folder.\n"
                       "  new-ledger NAME [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Adds the ledger NAME as the \"+\" button does, then gives it its Base\n"
                       "                 Account \"Balance\" as the account dialog's OK does, with AMOUNT in the\n"
@@ -140,6 +152,8 @@ const QList<Verb>& verbs()
         {u"transfer"_s, 1, {u"from"_s, u"to"_s, u"amount"_s, u"date"_s}, &transferVerb},
         {u"chart"_s, 1, {u"kind"_s, u"out"_s, u"size"_s}, &chartVerb},
         {u"report"_s, 1, {u"month"_s, u"year"_s, u"show-year"_s, u"pdf"_s}, &reportVerb},
+        {u"account"_s, 2, {u"from"_s, u"to"_s}, &accountListVerb},
+        {u"print"_s, 1, {u"what"_s, u"pdf"_s}, &printVerb},
     };
     return all;
 }
@@ -155,7 +169,7 @@ QList<QCommandLineOption> allOptions()
         options << QCommandLineOption(flag);
     for (const QString& valued : {u"opening"_s, u"notes"_s, u"rename"_s, u"account"_s, u"amount"_s, u"adjust"_s,
                                   u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s, u"from"_s,
-                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s, u"month"_s, u"year"_s, u"pdf"_s})
+                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s, u"month"_s, u"year"_s, u"pdf"_s, u"what"_s})
         options << QCommandLineOption(valued, valued, u"TEXT"_s);
     return options;
 }
@@ -203,6 +217,10 @@ bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringLis
     if (verb.name == u"chart" && !chartOptionsUsable(parser))
         return false;
     if (verb.name == u"report" && !reportOptionsUsable(parser))
+        return false;
+    if (verb.name == u"account" && !accountOptionsUsable(parser))
+        return false;
+    if (verb.name == u"print" && !printOptionsUsable(parser))
         return false;
     return true;
 }

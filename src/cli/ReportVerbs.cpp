@@ -1,45 +1,13 @@
 // The ledger report window, as text or printed to a PDF file.
 #include "cli/Verbs.h"
 
-#include "books/FileStore.h"
-#include "platform/BlockingServices.h"
+#include "cli/PdfPrinterServices.h"
 #include "platform/Clock.h"
 #include "platform/Numbers.h"
 #include "reports/LedgerReport.h"
 #include "reports/ListboxPrinter.h"
 
-#include <QBuffer>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The page setup dialog answered with its default page, and the printer dialog
-// with a PDF kept in memory until the command writes it out.
-class PdfPrinterServices {
-public:
-    PdfPrinterServices()
-    {
-        BlockingServiceHooks hooks;
-        hooks.pageSetupDialog = [](PrinterSetup&) { return true; };
-        hooks.openPrinterDialog = [this](const PrinterSetup& setup) {
-            buffer.open(QIODevice::WriteOnly);
-            return pdfPages(&buffer, setup);
-        };
-        previous = installBlockingServices(hooks);
-    }
-    ~PdfPrinterServices() { installBlockingServices(previous); }
-    PdfPrinterServices(const PdfPrinterServices&) = delete;
-    PdfPrinterServices& operator=(const PdfPrinterServices&) = delete;
-
-    QByteArray pdf;
-
-private:
-    QBuffer buffer{&pdf};
-    BlockingServiceHooks previous;
-};
-
-} // namespace
 
 bool reportOptionsUsable(const QCommandLineParser& parser)
 {
@@ -76,10 +44,7 @@ int reportVerb(const Invocation& call)
         report.layOutColumns(kLedgerboxWidth);
         PdfPrinterServices printer;
         ListboxPrinter().print(report, true);
-        const QString path = call.value(u"pdf"_s);
-        if (const FileProblem problem = replaceFile(path, printer.pdf); problem.failed())
-            return refused(call, u"couldn't write \"%1\": %2"_s.arg(path, problem.reason));
-        return 0;
+        return printer.save(call);
     }
     if (report.ListCount() == 0)
         call.out << "No transactions found\n";

@@ -36,6 +36,11 @@ public:
     bool open = false;
 };
 
+// The account named by the verb's second word (ignoring case, the first row of
+// that name), selected as a click selects it; -1 (refusal printed) when the
+// ledger has none of that name.
+int selectAccount(const Invocation& call, SummaryBooks& books);
+
 // A transBox row given as ROW, counted from 1, or -1 (refusal printed) when the
 // table has none such. ROW is a number: that was checked with the options.
 int transactionRow(const Invocation& call, const SummaryBooks& books, const QString& row);
@@ -69,3 +74,10 @@ int chartVerb(const Invocation& call);
 // At most one of --month M (0 to 12), --year Y and --show-year.
 bool reportOptionsUsable(const QCommandLineParser& parser);
 int reportVerb(const Invocation& call);
+
+// --from and --to, when given, are dates ParseDate reads.
+bool accountOptionsUsable(const QCommandLineParser& parser);
+int accountListVerb(const Invocation& call);
+// --what accounts|transactions|both and --pdf.
+bool printOptionsUsable(const QCommandLineParser& parser);
+int printVerb(const Invocation& call);

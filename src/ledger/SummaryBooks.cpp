@@ -18,6 +18,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -479,6 +482,39 @@ int SummaryBooks::doGST(const TransactionForm& form, const AccountList* accountL
             accountList->updateBalance();
     }
     return row;
+}
+
+bool SummaryBooks::deleteAccountListLines(Listbox& list)
+{
+    const FileProblemGathering oneMessage;
+    if (list.ListIndex() == -1) {
+        MsgBox(u"No transaction selected."_s);
+        return false;
+    }
+    if (!confirmDeletion(u"Are you sure you want to delete the selected transaction(s)?"_s))
+        return false;
+    // Removing the selected lines' rows one by one from the last line up, each
+    // link above a removed row falling by one, comes to this, in one pass of
+    // each table: a link ends lower by the removed rows below it.
+    std::vector<int> removed;
+    for (int line = 0; line < list.ListCount(); ++line)
+        if (list.Selected(line))
+            removed.push_back(truncated(Val(list.CellView(line, TransCol::Seconds))));
+    std::sort(removed.begin(), removed.end());
+    transBox.removeRowsWhere([&removed](int row) { return std::binary_search(removed.begin(), removed.end(), row); });
+    list.removeRowsWhere([&list](int line) { return list.Selected(line); });
+    for (int line = 0; line < list.ListCount(); ++line) {
+        const int link = truncated(Val(list.CellView(line, TransCol::Seconds)));
+        const auto below = std::lower_bound(removed.begin(), removed.end(), link) - removed.begin();
+        if (below > 0)
+            list.SetCell(line, TransCol::Seconds, Str(link - int(below)));
+    }
+    calcAll();
+    if (LedgerList.ListIndex() > -1) {
+        saveTable(transBox, theLedger, kTransData);
+        saveTable(accountsBox, theLedger, kAccountData);
+    }
+    return true;
 }
 
 void SummaryBooks::deleteSelectedTransactions()

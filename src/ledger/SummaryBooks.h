@@ -96,6 +96,12 @@ public:
     // transBox goes, from the last upward; both tables are stored and calcAll
     // runs. Without a selection it says "No transaction selected.".
     void deleteSelectedTransactions();
+    // The delete button of an account's transactions window, on its list: after
+    // the user's confirmation, each selected line from the last up takes its
+    // transBox row with it (the links of the lines after it fall by one); then
+    // calcAll, and both tables are stored. Without a selected line it says
+    // "No transaction selected.". True when lines were deleted.
+    bool deleteAccountListLines(Listbox& list);
     // Selects exactly the rows of transBox that hold the text in any column
     // (see findRows); returns how many.
     int findTrans(QStringView text);

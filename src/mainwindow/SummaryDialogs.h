@@ -8,6 +8,7 @@ class transferWindow;
 class newBookWindow;
 class chartingWindow;
 class ledgerWindow;
+class indAccWindow;
 
 // The dialogs the main window opens, each reached through the accessor of its
 // name: the one instance while it is open, a new one after it closed. The
@@ -20,4 +21,5 @@ struct SummaryDialogs {
     std::function<::newBookWindow*()> newBookWindow;
     std::function<::chartingWindow*()> chartingWindow;
     std::function<::ledgerWindow*()> ledgerWindow;
+    std::function<::indAccWindow*()> indAccWindow;
 };

@@ -77,6 +77,9 @@ public:
     void Toolbar11_DropDownMenuAction(QAction* item, QAction* menuItem);
     void Event_EnableMenuItems();
     void _FilePrint_Action();
+    void _FilePageSetup_Action();
+    // Prints what printRequest says, on the page set up in this run.
+    void printAll();
     void _FileNewAccount_Action();
     void _FileNewTransaction_Action();
     void addtransbtn_Action();

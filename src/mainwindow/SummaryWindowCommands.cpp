@@ -11,6 +11,10 @@
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
+#include "books/Globals.h"
+#include "platform/PrinterSetup.h"
+#include "reports/SummaryPrint.h"
+#include "reports/ui/indAccWindow.h"
 #include "reports/ui/ledgerWindow.h"
 
 #include <QAction>
@@ -32,6 +36,7 @@ void SummaryWindow::buildMenuBar()
     const QMenuBar& bar = *menuBar();
     MenuBar1::bind(bar, u"FileQuit"_s, this, [this] { close(); });
     MenuBar1::bind(bar, u"FilePrint"_s, this, [this] { _FilePrint_Action(); });
+    MenuBar1::bind(bar, u"FilePageSetup"_s, this, [this] { _FilePageSetup_Action(); });
     MenuBar1::bind(bar, u"FileNewAccount"_s, this, [this] { _FileNewAccount_Action(); });
     MenuBar1::bind(bar, u"FileNewTransaction"_s, this, [this] { _FileNewTransaction_Action(); });
     if (QMenu* file = bar.findChild<QMenu*>(u"FileMenu"_s))
@@ -80,6 +85,20 @@ void SummaryWindow::Event_EnableMenuItems()
 void SummaryWindow::_FilePrint_Action()
 {
     printRequest = u"all"_s;
+    printAll();
+}
+
+void SummaryWindow::_FilePageSetup_Action()
+{
+    PrinterSetup setup;
+    setup.SetupString = Globals::ps;
+    if (setup.PageSetupDialog())
+        Globals::ps = setup.SetupString;
+}
+
+void SummaryWindow::printAll()
+{
+    ::printAll(printRequest, windowTitle(), books_.accountsBox, books_.transBox);
 }
 
 void SummaryWindow::_FileNewAccount_Action()
@@ -154,6 +173,9 @@ void SummaryWindow::Toolbar11_Action(QAction* item)
     } else if (name == u"Transactions") {
         if (books_.accountsBox.ListIndex() <= 0)
             return MsgBox(u"No account selected"_s);
+        ::indAccWindow* account = dialogs_.indAccWindow();
+        account->openAccount(books_.accountsBox.ListIndex());
+        account->show();
     } else if (name == u"Transfer") {
         if (!ledgerOpen)
             return MsgBox(kNoLedger);
@@ -187,6 +209,7 @@ void SummaryWindow::Toolbar11_DropDownMenuAction(QAction*, QAction* menuItem)
         printRequest = u"transactions"_s;
     else if (text == u"Print/Save Both")
         printRequest = u"all"_s;
+    printAll();
     update();
 }
 

@@ -157,6 +157,15 @@ void TransactionWindow::editTransaction(int row)
     books_.storeTransactions();
 }
 
+void TransactionWindow::editFromList(const Listbox& list, int line)
+{
+    editingOn = true;
+    show();
+    TransactionForm filled = form();
+    fillFromTransaction(filled, list, line, books_.accountsBox);
+    showForm(filled);
+}
+
 void TransactionWindow::PopupMenu1_Change()
 {
     TransactionForm chosen = form();
@@ -202,10 +211,16 @@ const AccountList* TransactionWindow::listToShowIn() const
 
 void TransactionWindow::editAddTransaction()
 {
-    books_.editAddTransaction(form(), editingOn, listToShowIn());
+    const AccountList* list = listToShowIn();
+    books_.editAddTransaction(form(), editingOn, list);
+    if (list)
+        Q_EMIT accountListChanged();
 }
 
 void TransactionWindow::doGST()
 {
-    books_.doGST(form(), listToShowIn());
+    const AccountList* list = listToShowIn();
+    books_.doGST(form(), list);
+    if (list)
+        Q_EMIT accountListChanged();
 }

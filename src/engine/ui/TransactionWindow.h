@@ -5,6 +5,7 @@
 #include <QDialog>
 
 class AutoButton;
+class Listbox;
 class CalendarControl;
 class QComboBox;
 class QLabel;
@@ -58,6 +59,9 @@ public:
     // Shows the dialog on a row of transBox, to change it: the fields filled from
     // the row, which is stored as it stands.
     void editTransaction(int row);
+    // Shows the dialog on a line of an account's transactions window, to change
+    // the transaction it copies: the fields filled from the line.
+    void editFromList(const Listbox& list, int line);
     // Chooses an account of the menu, as the user would.
     void chooseAccount(int item);
 
@@ -68,6 +72,11 @@ public:
     void Canvas1_Action();
     void editAddTransaction();
     void doGST();
+
+Q_SIGNALS:
+    // OK or the GST button wrote a line into the list of the account's window
+    // that asked for the dialog.
+    void accountListChanged();
 
 private:
     void showForm(const TransactionForm& form);
