@@ -3,12 +3,11 @@
 // top left of its page) and pdftoppm (its pixels).
 #include "books/rowtable/Listbox.h"
 #include "reports/ListboxPrinter.h"
+#include "support/PdfReading.h"
 #include "support/ScriptedPlatform.h"
 
 #include <QFile>
 #include <QImage>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -20,58 +19,6 @@ namespace {
 // A4 with half an inch all round.
 constexpr double kMargin = 36;
 constexpr double kPageHeight = 842;
-
-struct Word {
-    int page = 0;
-    QRectF box;
-    QString text;
-};
-
-QList<Word> wordsOf(const QString& pdf)
-{
-    QProcess process;
-    process.start(u"pdftotext"_s, {u"-bbox"_s, pdf, u"-"_s});
-    EXPECT_TRUE(process.waitForFinished(60000));
-    static const QRegularExpression word(
-        uR"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">(.*)</word>)re"_s);
-    QList<Word> words;
-    int page = 0;
-    for (const QString& line : QString::fromUtf8(process.readAllStandardOutput()).split(u'\n')) {
-        if (line.contains(u"<page "))
-            ++page;
-        const QRegularExpressionMatch found = word.match(line);
-        if (found.hasMatch())
-            words.push_back({page, QRectF(QPointF(found.captured(1).toDouble(), found.captured(2).toDouble()),
-                                          QPointF(found.captured(3).toDouble(), found.captured(4).toDouble())),
-                             found.captured(5)});
-    }
-    return words;
-}
-
-int pagesOf(const QList<Word>& words)
-{
-    int pages = 0;
-    for (const Word& word : words)
-        pages = std::max(pages, word.page);
-    return pages;
-}
-
-QList<Word> named(const QList<Word>& words, const QString& text)
-{
-    QList<Word> found;
-    for (const Word& word : words)
-        if (word.text == text)
-            found << word;
-    return found;
-}
-
-// The first page at 72 dots an inch: a pixel a point.
-QImage firstPage(const QString& pdf, const QString& folder)
-{
-    QProcess::execute(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-f"_s, u"1"_s, u"-l"_s, u"1"_s, u"-png"_s, pdf,
-                                      folder + u"/page"_s});
-    return QImage(folder + u"/page-1.png"_s);
-}
 
 class ListboxPrinterTest : public ::testing::Test {
 protected:
@@ -208,7 +155,7 @@ TEST_F(ListboxPrinterTest, WideHeadingsAndCellsStartAtTheirColumnAndAZeroColumnT
     EXPECT_NEAR(named(words, u"right"_s).value(0).box.right(), kMargin + 400, 1);
 
     // The band under row 0 only, the rules the full height of the page.
-    const QImage page = firstPage(pdf, folder.path());
+    const QImage page = pageImage(pdf, 1, folder.path());
     ASSERT_FALSE(page.isNull());
     const int row0 = int(named(words, u"zero"_s).value(0).box.center().y());
     const int row1 = int(named(words, u"short"_s).value(0).box.center().y());
