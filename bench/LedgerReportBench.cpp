@@ -1,14 +1,12 @@
 // The ledger report on a ledger of 200 accounts with 1,000 to 100,000
 // transactions: the report of one year, as "Show Year" builds it, and the whole
 // report printed to a PDF, fitted to an A4 page, as the print button prints it.
+#include "PdfInMemory.h"
 #include "books/rowtable/Listbox.h"
 #include "engine/RowLayouts.h"
-#include "platform/BlockingServices.h"
 #include "reference/GeneratedLedger.h"
 #include "reports/LedgerReport.h"
 #include "reports/ListboxPrinter.h"
-
-#include <QBuffer>
 
 #include <benchmark/benchmark.h>
 
@@ -32,27 +30,6 @@ void BM_ReportOfAYear(benchmark::State& state)
     state.counters["rows"] = report.ListCount();
 }
 
-// The page setup confirmed, the printer a PDF in memory.
-class PdfInMemory {
-public:
-    PdfInMemory()
-    {
-        BlockingServiceHooks hooks;
-        hooks.pageSetupDialog = [](PrinterSetup&) { return true; };
-        hooks.openPrinterDialog = [this](const PrinterSetup& setup) {
-            pdf.clear();
-            buffer.open(QIODevice::WriteOnly);
-            return pdfPages(&buffer, setup);
-        };
-        previous = installBlockingServices(hooks);
-    }
-    ~PdfInMemory() { installBlockingServices(previous); }
-
-    QByteArray pdf;
-    QBuffer buffer{&pdf};
-    BlockingServiceHooks previous;
-};
-
 void BM_PrintWholeReport(benchmark::State& state)
 {
     const Ledger ledger(int(state.range(0)));
@@ -63,7 +40,6 @@ void BM_PrintWholeReport(benchmark::State& state)
     PdfInMemory printer;
     for (auto _ : state) {
         ListboxPrinter().print(report, true);
-        printer.buffer.close();
     }
     state.counters["rows"] = report.ListCount();
     state.counters["MB"] = printer.pdf.size() / 1e6;

@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 #include "support/DataFolder.h"
 #include "support/FailingSaves.h"
+#include "support/PdfReading.h"
 
 #include <QDir>
 #include <QImage>
@@ -502,6 +503,51 @@ TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheLedgerReportOrItsPdf)
         {{u"report"_s, u"Shop"_s, u"--month"_s, u"3"_s, u"--year"_s, u"2014"_s}, 2},
         {{u"report"_s, u"Shop"_s, u"--month"_s, u"3"_s, u"--show-year"_s}, 2},
         {{u"report"_s, u"Shop"_s, u"--year"_s, u"2014"_s, u"--show-year"_s}, 2},
+    };
+    for (const auto& [arguments, status] : refusals) {
+        run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, status) << arguments.join(u' ').toStdString();
+        EXPECT_FALSE(run.err.isEmpty());
+    }
+    EXPECT_EQ(files(), before) << "nothing written in the data folder";
+}
+
+TEST_F(CommandLineTest, AccountListsTheTransactionsWindowAndPrintPrintsTheSummary)
+{
+    const auto files = [this] {
+        return std::pair{QDir(home.quillmark()).entryList(QDir::Files), readBytes(book(u"  ShopTransData"_s))};
+    };
+    const auto before = files();
+    CliRun run = runCli(data() << u"account"_s << u"Shop"_s << u"RENT"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, u"\tRent\t2014-03-10\tMarch\t\t-40.00\t0.00\t-40.00 \t1\t\nBalance:\t\n")
+        << "the balance as stored: this ledger was never recalculated";
+
+    // The range on both sides of 2014-03-10, at noon of --today: the day after the
+    // From day stays; so does the To day.
+    run = runCli(data() << u"account"_s << u"Shop"_s << u"sales"_s << u"--from"_s << u"2014-03-08"_s << u"--to"_s
+                        << u"20140309"_s);
+    EXPECT_EQ(run.out, u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n");
+    run = runCli(data() << u"account"_s << u"Shop"_s << u"sales"_s << u"--from"_s << u"2014-03-09"_s);
+    EXPECT_EQ(run.out, u"Balance:\t0\n") << "the From day goes; To is today";
+
+    const QString pdf = home.path() + u"/both.pdf"_s;
+    run = runCli(data() << u"print"_s << u"shop"_s << u"--what"_s << u"both"_s << u"--pdf"_s << pdf);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    const QList<Word> words = wordsOf(pdf);
+    EXPECT_EQ(named(words, u"Quillmark:"_s).size(), 2);
+    EXPECT_EQ(named(words, u"March"_s).size(), 1);
+    run = runCli(data() << u"print"_s << u"shop"_s << u"--what"_s << u"accounts"_s << u"--pdf"_s << pdf);
+    EXPECT_TRUE(named(wordsOf(pdf), u"March"_s).isEmpty());
+
+    const QList<std::pair<QStringList, int>> refusals{
+        {{u"account"_s, u"Shop"_s, u"balance"_s}, 1},
+        {{u"account"_s, u"Shop"_s, u"Travel"_s}, 1},
+        {{u"account"_s, u"Garage"_s, u"Rent"_s}, 1},
+        {{u"account"_s, u"Shop"_s, u"Rent"_s, u"--from"_s, u"someday"_s}, 2},
+        {{u"print"_s, u"Shop"_s, u"--what"_s, u"all"_s, u"--pdf"_s, pdf}, 2},
+        {{u"print"_s, u"Shop"_s, u"--what"_s, u"both"_s}, 2},
+        {{u"print"_s, u"Shop"_s, u"--what"_s, u"both"_s, u"--pdf"_s, home.path() + u"/no/such.pdf"_s}, 1},
     };
     for (const auto& [arguments, status] : refusals) {
         run = runCli(data() << arguments);
