@@ -83,6 +83,22 @@ const QString kHelp = u"Usage: quillmark-cli [--data DIR] [--today YYYY-MM-DD] C
                       "                 The Print/Save item of that name, printed on the default page (A4)\n"
                       "                 into the PDF FILE under the main window's title \"Quillmark\".\n"
                       "                 Writes nothing in the data folder.\n"
+                      "  export NAME FILE\n"
+                      "                 Writes every transaction to the CSV file FILE, as File > Export does:\n"
+                      "                 the file gets \".csv\" after its name unless it ends so already.\n"
+                      "  import NAME FILE --map SPEC [--delimiter C|tab] [--skip N] [--skip-end M]\n"
+                      "         [--duplicates keep|skip]\n"
+                      "                 Appends the records of the delimited text FILE as transactions, all\n"
+                      "                 or none, then recalculates and stores the ledger. SPEC maps the\n"
+                      "                 file's columns, counted from 1, comma-separated: account=N or\n"
+                      "                 account=NAME (one account for every row), type=N (never read),\n"
+                      "                 date=N, amount=N or debit=N,credit=N, description=N,\n"
+                      "                 dates=ymd|dmy|mdy (ymd), decimal=auto|period|comma (auto); a key\n"
+                      "                 left out is no column. The delimiter is \",\" unless given; the first\n"
+                      "                 N records (1) and the last M (0) are skipped. A record that can't\n"
+                      "                 be read refuses the whole import with \"line N: why\". Records the\n"
+                      "                 ledger holds already (account, description, day and amount) refuse\n"
+                      "                 it too, unless --duplicates says to keep or to skip them.\n"
                       "  new-ledger NAME [--opening AMOUNT] [--notes TEXT]\n"
                       "                 Adds the ledger NAME as the \"+\" button does, then gives it its Base\n"
                       "                 Account \"Balance\" as the account dialog's OK does, with AMOUNT in the\n"
@@ -154,6 +170,8 @@ const QList<Verb>& verbs()
         {u"report"_s, 1, {u"month"_s, u"year"_s, u"show-year"_s, u"pdf"_s}, &reportVerb},
         {u"account"_s, 2, {u"from"_s, u"to"_s}, &accountListVerb},
         {u"print"_s, 1, {u"what"_s, u"pdf"_s}, &printVerb},
+        {u"export"_s, 2, {}, &exportVerb},
+        {u"import"_s, 2, {u"map"_s, u"delimiter"_s, u"skip"_s, u"skip-end"_s, u"duplicates"_s}, &importVerb},
     };
     return all;
 }
@@ -169,7 +187,8 @@ QList<QCommandLineOption> allOptions()
         options << QCommandLineOption(flag);
     for (const QString& valued : {u"opening"_s, u"notes"_s, u"rename"_s, u"account"_s, u"amount"_s, u"adjust"_s,
                                   u"description"_s, u"invoice"_s, u"memo"_s, u"repeat"_s, u"date"_s, u"from"_s,
-                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s, u"month"_s, u"year"_s, u"pdf"_s, u"what"_s})
+                                  u"to"_s, u"kind"_s, u"out"_s, u"size"_s, u"month"_s, u"year"_s, u"pdf"_s, u"what"_s, u"map"_s, u"delimiter"_s, u"skip"_s,
+                                  u"skip-end"_s, u"duplicates"_s})
         options << QCommandLineOption(valued, valued, u"TEXT"_s);
     return options;
 }
@@ -221,6 +240,8 @@ bool usable(const QCommandLineParser& parser, const Verb& verb, const QStringLis
     if (verb.name == u"account" && !accountOptionsUsable(parser))
         return false;
     if (verb.name == u"print" && !printOptionsUsable(parser))
+        return false;
+    if (verb.name == u"import" && !importOptionsUsable(parser))
         return false;
     return true;
 }

@@ -81,3 +81,8 @@ int accountListVerb(const Invocation& call);
 // --what accounts|transactions|both and --pdf.
 bool printOptionsUsable(const QCommandLineParser& parser);
 int printVerb(const Invocation& call);
+
+int exportVerb(const Invocation& call);
+// --map SPEC and the other options of import read as they should.
+bool importOptionsUsable(const QCommandLineParser& parser);
+int importVerb(const Invocation& call);

@@ -517,6 +517,27 @@ bool SummaryBooks::deleteAccountListLines(Listbox& list)
     return true;
 }
 
+int SummaryBooks::importTransactions(const std::vector<ImportedRow>& rows, bool skipDuplicates)
+{
+    const FileProblemGathering oneMessage;
+    std::vector<Listbox::Row> added;
+    added.reserve(rows.size());
+    for (const ImportedRow& row : rows) {
+        if (skipDuplicates && row.duplicate)
+            continue;
+        QStringView cells[TransCol::Count];
+        cells[TransCol::Account] = row.account;
+        cells[TransCol::Date] = row.date;
+        cells[TransCol::Description] = row.description;
+        cells[TransCol::Transaction] = row.amount;
+        added.emplace_back(cells, TransCol::Count, TransCol::Count);
+    }
+    const int count = int(added.size());
+    transBox.appendRows(std::move(added));
+    calcAll();
+    return count;
+}
+
 void SummaryBooks::deleteSelectedTransactions()
 {
     const FileProblemGathering oneMessage;

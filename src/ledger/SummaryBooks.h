@@ -4,6 +4,7 @@
 #include "books/rowtable/ListboxManager.h"
 #include "engine/AccountMaintenance.h"
 #include "engine/TransactionEntry.h"
+#include "exchange/TransactionImport.h"
 
 #include <QObject>
 #include <QString>
@@ -114,6 +115,10 @@ public:
     // the Base Account; choosing one gives the selected transaction that account.
     QStringList transBox_ContextualMenuItems() const;
     void transBox_ContextualMenuAction(const QString& itemText);
+    // The import's rows appended to transBox in their order (without the
+    // duplicates, when they are to be skipped): account, date, description and
+    // amount; then calcAll, which stores both tables. Returns how many came in.
+    int importTransactions(const std::vector<ImportedRow>& rows, bool skipDuplicates);
     // Stores both tables of the open ledger, if one is open: the window closes.
     void saveOpenLedger();
 

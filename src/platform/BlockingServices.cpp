@@ -19,6 +19,8 @@ BlockingServiceHooks defaultHooks()
     hooks.messageDialog = [](const MessageDialog& dialog) {
         return dialog.CancelButton.isEmpty() ? MessageDialog::Button::Action : MessageDialog::Button::Cancel;
     };
+    hooks.saveAsDialog = [](const FileDialogRequest&) { return QString(); };
+    hooks.openDialog = [](const FileDialogRequest&) { return QString(); };
     hooks.pageSetupDialog = [](PrinterSetup&) { return false; };
     hooks.openPrinterDialog = [](const PrinterSetup&) { return std::unique_ptr<Graphics>(); };
     hooks.beep = [] {};
@@ -38,6 +40,7 @@ BlockingServiceHooks& current()
 BlockingServiceHooks installBlockingServices(const BlockingServiceHooks& hooks)
 {
     return replaceSetHooks(current(), hooks, &BlockingServiceHooks::msgBox, &BlockingServiceHooks::messageDialog,
+                           &BlockingServiceHooks::saveAsDialog, &BlockingServiceHooks::openDialog,
                            &BlockingServiceHooks::pageSetupDialog, &BlockingServiceHooks::openPrinterDialog,
                            &BlockingServiceHooks::beep, &BlockingServiceHooks::showUrl, &BlockingServiceHooks::quit);
 }
@@ -55,6 +58,16 @@ MessageDialog::Button MessageDialog::ShowModal() const
 void MsgBox(const QString& message)
 {
     current().msgBox(message);
+}
+
+QString SaveAsDialog(const FileDialogRequest& request)
+{
+    return current().saveAsDialog(request);
+}
+
+QString OpenDialog(const FileDialogRequest& request)
+{
+    return current().openDialog(request);
 }
 
 std::unique_ptr<Graphics> OpenPrinterDialog(const PrinterSetup& setup)

@@ -79,11 +79,6 @@ bool readEightDigits(QStringView text, QDate& date)
     return makeDate(asciiNumber(text, 0, 4), asciiNumber(text, 4, 2), asciiNumber(text, 6, 2), date);
 }
 
-int yearOfTwoDigits(int twoDigits)
-{
-    const int year = 2000 + twoDigits;
-    return year > Clock::today().year() + 20 ? year - 100 : year;
-}
 
 // Reads the decimal digits at text[at] (any script's, so a locale with its own digits
 // reads too), at least minCount and at most maxCount of them.
@@ -217,6 +212,12 @@ QStringView trimmedBlanks(QStringView text)
 }
 
 } // namespace
+
+int yearOfTwoDigits(int twoDigits)
+{
+    const int year = 2000 + twoDigits;
+    return year > Clock::today().year() + 20 ? year - 100 : year;
+}
 
 bool ParseDate(QStringView text, QDate& date)
 {

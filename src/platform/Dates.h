@@ -16,6 +16,10 @@
 // Only real dates of the years 1 to 9999 are read: "2014-02-30" fails.
 bool ParseDate(QStringView text, QDate& date);
 
+// The year a two-digit year stands for: at most 20 years after the current year
+// by the clock ("46" is 2046 and "47" is 1947 in 2026).
+int yearOfTwoDigits(int twoDigits);
+
 // The date with its month or year moved on, keeping its day number: days the
 // new month lacks carry over into the month after, as a date object of the
 // platform does when its Month or Year is set. 31 January plus a month is

@@ -12,6 +12,10 @@ ScriptedPlatform::ScriptedPlatform()
         answers.pop_front();
         return answer;
     };
+    hooks.saveAsDialog = hooks.openDialog = [this](const FileDialogRequest& request) {
+        fileDialogs.push_back(request);
+        return filePath;
+    };
     hooks.pageSetupDialog = [this](PrinterSetup&) {
         ++pageSetups;
         return confirmPageSetup;

@@ -23,12 +23,15 @@ public:
     ScriptedPlatform& operator=(const ScriptedPlatform&) = delete;
 
     void answerNextDialog(MessageDialog::Button answer) { answers.push_back(answer); }
+    // The file dialogs answer with this path (empty: they are cancelled).
+    void answerFileDialogs(const QString& path) { filePath = path; }
     // The printer dialog answers with a PDF at path (empty: it is cancelled).
     void printToPdf(const QString& path) { pdfPath = path; }
 
     bool confirmPageSetup = true;
     int pageSetups = 0;                    // page setup dialogs shown
     int printerDialogs = 0;                // printer dialogs shown
+    std::vector<FileDialogRequest> fileDialogs; // save and open dialogs shown, in order
 
     QStringList messages;                  // MsgBox texts, in order
     std::vector<MessageDialog> dialogs;    // confirmations shown, in order
@@ -39,6 +42,7 @@ public:
 private:
     std::deque<MessageDialog::Button> answers;
     QString pdfPath;
+    QString filePath;
     BlockingServiceHooks previous;
 };
 

@@ -46,6 +46,17 @@ void Listbox::AddRow(QStringView text)
     Q_EMIT rowsAdded();
 }
 
+void Listbox::appendRows(std::vector<Row> rows)
+{
+    if (rows.empty())
+        return;
+    const int first = ListCount();
+    Q_EMIT rowsAboutToBeAdded(first, first + int(rows.size()) - 1);
+    rows_.insert(rows_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+    lastIndex_ = ListCount() - 1;
+    Q_EMIT rowsAdded();
+}
+
 void Listbox::RemoveRow(int row)
 {
     if (!validRow(row))

@@ -80,6 +80,9 @@ public:
     void removeRowsWhere(const std::function<bool(int row)>& remove);
     // Puts rows in place of all present ones at once (a load).
     void replaceAllRows(std::vector<Row> rows);
+    // Adds rows after the last at once, as AddRow one by one would; the last of
+    // them is LastIndex.
+    void appendRows(std::vector<Row> rows);
 
     // Column may be ColumnCount(), the hidden cell; anything outside reads "".
     QString Cell(int row, int column) const { return CellView(row, column).toString(); }

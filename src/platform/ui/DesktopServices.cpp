@@ -3,6 +3,7 @@
 #include "platform/BlockingServices.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
@@ -40,6 +41,21 @@ MessageDialog::Button showMessageDialog(const MessageDialog& dialog)
     return MessageDialog::Button::Cancel;
 }
 
+QString showSaveAsDialog(const FileDialogRequest& request)
+{
+    QFileDialog dialog(dialogParent(), request.Title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(request.SuggestedFileName);
+    if (!request.Filter.isEmpty())
+        dialog.setNameFilter(request.Filter);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString showOpenDialog(const FileDialogRequest& request)
+{
+    return QFileDialog::getOpenFileName(dialogParent(), request.Title, QString(), request.Filter);
+}
+
 bool showPageSetupDialog(PrinterSetup& setup)
 {
     QPrinter printer(QPrinter::HighResolution);
@@ -75,6 +91,8 @@ void installDesktopServices()
         box.exec();
     };
     hooks.messageDialog = showMessageDialog;
+    hooks.saveAsDialog = showSaveAsDialog;
+    hooks.openDialog = showOpenDialog;
     hooks.pageSetupDialog = showPageSetupDialog;
     hooks.openPrinterDialog = showPrinterDialog;
     hooks.beep = [] { QApplication::beep(); };
