@@ -8,6 +8,7 @@
 #include "engine/ui/AccountWindow.h"
 #include "engine/ui/TransactionWindow.h"
 #include "engine/ui/transferWindow.h"
+#include "exchange/ui/CustomImportWindow.h"
 #include "mainwindow/SummaryWindow.h"
 #include "reports/ui/indAccWindow.h"
 #include "reports/ui/ledgerWindow.h"
@@ -57,6 +58,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
             .chartingWindow = &Windows::chartingWindow,
             .ledgerWindow = &Windows::ledgerWindow,
             .indAccWindow = &Windows::indAccWindow,
+            .CustomImportWindow = &Windows::CustomImportWindow,
         });
         App::AddMenuHandlers(*window->menuBar());
         return window;
@@ -114,6 +116,21 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
     return accessWindow(instance, [] {
         ::SummaryWindow* summary = Windows::SummaryWindow();
         return new ::indAccWindow(summary->books(), &Windows::TransactionWindow, summary);
+    });
+}
+
+::CustomImportWindow* Windows::CustomImportWindow()
+{
+    static QPointer<::CustomImportWindow> instance;
+    return accessWindow(instance, [] {
+        ::SummaryWindow* summary = Windows::SummaryWindow();
+        SummaryBooks& books = summary->books();
+        return new ::CustomImportWindow(
+            books.accountsBox, books.transBox,
+            [&books](const std::vector<ImportedRow>& rows, bool skipDuplicates) {
+                return books.importTransactions(rows, skipDuplicates);
+            },
+            summary);
     });
 }
 

@@ -16,6 +16,7 @@ class transferWindow;
 class chartingWindow;
 class ledgerWindow;
 class indAccWindow;
+class CustomImportWindow;
 
 // Calls forget as soon as the window is closed, before its deletion, which
 // waits for the event loop.
@@ -49,4 +50,5 @@ namespace Windows {
 ::chartingWindow* chartingWindow();
 ::ledgerWindow* ledgerWindow();
 ::indAccWindow* indAccWindow();
+::CustomImportWindow* CustomImportWindow();
 } // namespace Windows

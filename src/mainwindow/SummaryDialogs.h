@@ -9,6 +9,7 @@ class newBookWindow;
 class chartingWindow;
 class ledgerWindow;
 class indAccWindow;
+class CustomImportWindow;
 
 // The dialogs the main window opens, each reached through the accessor of its
 // name: the one instance while it is open, a new one after it closed. The
@@ -22,4 +23,5 @@ struct SummaryDialogs {
     std::function<::chartingWindow*()> chartingWindow;
     std::function<::ledgerWindow*()> ledgerWindow;
     std::function<::indAccWindow*()> indAccWindow;
+    std::function<::CustomImportWindow*()> CustomImportWindow;
 };

@@ -78,6 +78,10 @@ public:
     void Event_EnableMenuItems();
     void _FilePrint_Action();
     void _FilePageSetup_Action();
+    void _FileExportData_Action();
+    void _FileImportData_Action();
+    // Writes every transaction to the CSV file the user names.
+    void exportData();
     // Prints what printRequest says, on the page set up in this run.
     void printAll();
     void _FileNewAccount_Action();

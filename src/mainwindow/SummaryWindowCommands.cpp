@@ -12,6 +12,9 @@
 #include "mainwindow/Toolbar1.h"
 #include "platform/BlockingServices.h"
 #include "books/Globals.h"
+#include "exchange/CsvExport.h"
+#include "exchange/FileTypes1.h"
+#include "exchange/ui/CustomImportWindow.h"
 #include "platform/PrinterSetup.h"
 #include "reports/SummaryPrint.h"
 #include "reports/ui/indAccWindow.h"
@@ -37,6 +40,8 @@ void SummaryWindow::buildMenuBar()
     MenuBar1::bind(bar, u"FileQuit"_s, this, [this] { close(); });
     MenuBar1::bind(bar, u"FilePrint"_s, this, [this] { _FilePrint_Action(); });
     MenuBar1::bind(bar, u"FilePageSetup"_s, this, [this] { _FilePageSetup_Action(); });
+    MenuBar1::bind(bar, u"FileExportData"_s, this, [this] { _FileExportData_Action(); });
+    MenuBar1::bind(bar, u"FileImportData"_s, this, [this] { _FileImportData_Action(); });
     MenuBar1::bind(bar, u"FileNewAccount"_s, this, [this] { _FileNewAccount_Action(); });
     MenuBar1::bind(bar, u"FileNewTransaction"_s, this, [this] { _FileNewTransaction_Action(); });
     if (QMenu* file = bar.findChild<QMenu*>(u"FileMenu"_s))
@@ -94,6 +99,39 @@ void SummaryWindow::_FilePageSetup_Action()
     setup.SetupString = Globals::ps;
     if (setup.PageSetupDialog())
         Globals::ps = setup.SetupString;
+}
+
+void SummaryWindow::_FileExportData_Action()
+{
+    exportData();
+}
+
+void SummaryWindow::exportData()
+{
+    const QString path = SaveAsDialog({.Title = u"Export Data"_s,
+                                       .PromptText = u"Export Data"_s,
+                                       .SuggestedFileName = u"untitled"_s,
+                                       .Filter = {}});
+    if (path.isEmpty())
+        return;
+    if (const QString problem = ::exportData(books_.transBox, path); !problem.isEmpty())
+        MsgBox(problem);
+}
+
+void SummaryWindow::_FileImportData_Action()
+{
+    // The file first: the dialog shows what it holds.
+    const QString path = OpenDialog({.Title = u"Select a transaction data file"_s,
+                                     .PromptText = {},
+                                     .SuggestedFileName = {},
+                                     .Filter = FileTypes1::CommaSeparatedValues().filter()});
+    if (path.isEmpty())
+        return;
+    ::CustomImportWindow* dialog = dialogs_.CustomImportWindow();
+    if (dialog->openFile(path))
+        dialog->show();
+    else
+        dialog->close();
 }
 
 void SummaryWindow::printAll()
