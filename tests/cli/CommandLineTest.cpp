@@ -556,3 +556,65 @@ TEST_F(CommandLineTest, AccountListsTheTransactionsWindowAndPrintPrintsTheSummar
     }
     EXPECT_EQ(files(), before) << "nothing written in the data folder";
 }
+
+TEST_F(CommandLineTest, ExportAndImportKeepTheLedgerWholeOnEveryRefusal)
+{
+    const auto files = [this] {
+        return std::pair{readBytes(book(u"  ShopAccountData"_s)), readBytes(book(u"  ShopTransData"_s))};
+    };
+    const QString csv = home.path() + u"/out"_s;
+    CliRun run = runCli(data() << u"export"_s << u"shop"_s << csv);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(readBytes(csv + u".csv"_s), "Account,Transaction Type,Date Posted,Transaction Amount,Description\r\n"
+                                          "sales,CREDIT,20140309,12.50,Sale\n"
+                                          "Rent,DEBIT,20140310,-40,00,March\n");
+    const auto before = files();
+
+    // A semicolon file in Windows-1252, a line above the header and a total below.
+    const QString bank = home.path() + u"/bank.csv"_s;
+    writeBytes(bank, "Statement\nDate;Text;Amount\n11.03.2014;Caf\xE9;-1.234,56\n\n12.03.2014;\"Two\nlines\";(5,00)\n"
+                     "Total;;-1.239,56\n");
+    const QStringList import{u"import"_s, u"Shop"_s, bank, u"--map"_s,
+                             u"date=1,description=2,amount=3,account=rent,dates=dmy"_s, u"--delimiter"_s, u";"_s,
+                             u"--skip"_s, u"2"_s};
+    const QList<std::pair<QStringList, int>> refusals{
+        {import, 1}, // the total is no date
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1,amount=3"_s, u"--skip"_s, u"-1"_s}, 2},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1,description=2,amount=3,account=Travel,dates=dmy"_s,
+          u"--delimiter"_s, u";"_s, u"--skip"_s, u"2"_s, u"--skip-end"_s, u"1"_s},
+         1},
+        {{u"import"_s, u"Shop"_s, home.path() + u"/missing.csv"_s, u"--map"_s, u"date=1,amount=2"_s}, 1},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"description=2,amount=3"_s}, 2},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1"_s}, 2},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1,amount=3,colour=2"_s}, 2},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1,amount=3,debit=4,credit=5"_s}, 2},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1,amount=3"_s, u"--delimiter"_s, u";;"_s}, 2},
+        {{u"import"_s, u"Shop"_s, bank, u"--map"_s, u"date=1,amount=3"_s, u"--duplicates"_s, u"maybe"_s}, 2},
+    };
+    for (const auto& [arguments, status] : refusals) {
+        run = runCli(data() << arguments);
+        EXPECT_EQ(run.status, status) << arguments.join(u' ').toStdString() << "\n" << run.err.toStdString();
+        EXPECT_FALSE(run.err.isEmpty());
+    }
+    EXPECT_TRUE(runCli(data() << import).err.contains(u"line 7: \"Total\" is not a date in the order day-month-year"));
+    EXPECT_EQ(files(), before) << "nothing appended, nothing written";
+
+    run = runCli(data() << import << u"--skip-end"_s << u"1"_s);
+    EXPECT_EQ(run.status, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, u"2 transactions imported\n");
+    const QByteArray transactions = readBytes(book(u"  ShopTransData"_s));
+    EXPECT_TRUE(transactions.contains("@#@Rent@#@2014-03-11@#@Caf\xC3\xA9@#@@#@@#@@#@-1234.56@#@"));
+    EXPECT_TRUE(transactions.contains("@#@Rent@#@2014-03-12@#@Two lines@#@@#@@#@@#@-5.00@#@"));
+    EXPECT_NE(readBytes(book(u"  ShopAccountData"_s)), before.first) << "recalculated and stored";
+
+    // Again: both are in the ledger now.
+    const auto imported = files();
+    run = runCli(data() << import << u"--skip-end"_s << u"1"_s);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.err.contains(u"2 of the transactions are in the ledger already")) << run.err.toStdString();
+    EXPECT_EQ(files(), imported);
+    run = runCli(data() << import << u"--skip-end"_s << u"1"_s << u"--duplicates"_s << u"skip"_s);
+    EXPECT_EQ(run.out, u"0 transactions imported, 2 already in the ledger skipped\n");
+    run = runCli(data() << import << u"--skip-end"_s << u"1"_s << u"--duplicates"_s << u"keep"_s);
+    EXPECT_EQ(run.out, u"2 transactions imported\n");
+}

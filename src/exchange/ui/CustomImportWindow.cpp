@@ -92,17 +92,13 @@ CustomImportWindow::CustomImportWindow(const Listbox& accounts, const Listbox& t
         CellLook look;
         if (row < 0 || row >= int(judged_.size()))
             return look;
-        switch (judged_[row].verdict.state) {
-        case RecordState::Skipped:
-        case RecordState::PassedOver:
+        // Grey what is left out; red the record that stops the import.
+        const RecordState state = judged_[row].verdict.state;
+        if (state == RecordState::Skipped || state == RecordState::PassedOver)
             look.text = QColor(150, 150, 150);
-            break;
-        case RecordState::Refused:
+        if (row == firstRefused_) {
             look.background = QColor(255, 205, 205);
             look.text = QColor(170, 0, 0);
-            break;
-        case RecordState::Imported:
-            break;
         }
         return look;
     });
@@ -241,12 +237,16 @@ void CustomImportWindow::updatePreview()
         PreviewTable.setColumnWidthPercent(column, column <= columns ? 92.0 / columns : 0);
     }
     QString problem = mappingProblem(map);
+    firstRefused_ = -1;
     for (const JudgedRecord& one : judged_) {
         PreviewTable.AddRow(QString::number(one.record.line));
         for (int column = 1; column <= columns; ++column)
             PreviewTable.SetCell(PreviewTable.LastIndex(), column, one.record.fields.value(column - 1));
-        if (problem.isEmpty() && one.verdict.state == RecordState::Refused)
-            problem = u"Line %1: %2."_s.arg(one.record.line).arg(one.verdict.problem);
+        if (firstRefused_ < 0 && one.verdict.state == RecordState::Refused) {
+            firstRefused_ = PreviewTable.LastIndex();
+            if (problem.isEmpty())
+                problem = u"Line %1: %2."_s.arg(one.record.line).arg(one.verdict.problem);
+        }
     }
     if (problem.isEmpty() && records_.unclosedQuoteLine > 0)
         problem = u"Line %1: a field in quotes begins here and never ends."_s.arg(records_.unclosedQuoteLine);

@@ -67,5 +67,6 @@ private:
     QByteArray bytes_;
     RecordList records_;
     std::vector<JudgedRecord> judged_;
+    int firstRefused_ = -1;       // the preview's row of the first record refused
     QChar separatorRead_;
 };
