@@ -42,73 +42,100 @@ QString decodeImportText(const QByteArray& bytes)
     return fromWindows1252(view);
 }
 
+RecordReader::RecordReader(const QString& text, QChar separator)
+    : data_(text.constData())
+    , size_(text.size())
+    , separator_(separator)
+{
+}
+
+void RecordReader::skipLineBreak()
+{
+    if (data_[at_] == u'\r' && at_ + 1 < size_ && data_[at_ + 1] == u'\n')
+        ++at_;
+    ++at_;
+    ++line_;
+}
+
+bool RecordReader::next(Record& record)
+{
+    if (at_ >= size_ || unclosedQuoteLine_ > 0)
+        return false;
+    record.line = line_;
+    record.fields.clear();
+    for (;;) {
+        if (data_[at_] == u'"') {
+            const int quoteLine = line_;
+            QString field;
+            ++at_;
+            bool closed = false;
+            qsizetype start = at_;
+            while (at_ < size_) {
+                if (data_[at_] == u'"') {
+                    field.append(data_ + start, at_ - start);
+                    if (at_ + 1 < size_ && data_[at_ + 1] == u'"') {
+                        field += u'"';
+                        at_ += 2;
+                        start = at_;
+                        continue;
+                    }
+                    ++at_;
+                    closed = true;
+                    break;
+                }
+                if (lineBreakAt(at_)) {
+                    skipLineBreak();
+                    continue;
+                }
+                ++at_;
+            }
+            if (!closed) {
+                unclosedQuoteLine_ = quoteLine;
+                return false;
+            }
+            // What follows the closing quote up to the separator is text too.
+            start = at_;
+            while (at_ < size_ && data_[at_] != separator_ && !lineBreakAt(at_))
+                ++at_;
+            field.append(data_ + start, at_ - start);
+            record.fields << field;
+        } else {
+            const qsizetype start = at_;
+            while (at_ < size_ && data_[at_] != separator_ && !lineBreakAt(at_))
+                ++at_;
+            record.fields.emplaceBack(data_ + start, at_ - start);
+        }
+        if (at_ < size_ && data_[at_] == separator_) {
+            ++at_;
+            if (at_ < size_)
+                continue;
+            record.fields << QString(); // a separator ends the text: one more, empty field
+        }
+        break;
+    }
+    if (at_ < size_)
+        skipLineBreak();
+    return true;
+}
+
+int nulLineOf(const QString& text)
+{
+    const qsizetype nul = text.indexOf(QChar(0));
+    if (nul < 0)
+        return 0;
+    const QStringView before = QStringView(text).left(nul);
+    return 1 + int(before.count(u'\n')) + int(before.count(u'\r')) - int(before.count(u"\r\n"));
+}
+
 RecordList readRecords(const QString& text, QChar separator)
 {
     RecordList result;
-    const qsizetype size = text.size();
-    qsizetype at = 0;
-    int line = 1;
-    const auto lineBreakAt = [&](qsizetype i) { return text[i] == u'\n' || text[i] == u'\r'; };
-    // Steps over the line break at `at`, counting the line.
-    const auto skipLineBreak = [&] {
-        if (text[at] == u'\r' && at + 1 < size && text[at + 1] == u'\n')
-            ++at;
-        ++at;
-        ++line;
-    };
-    while (at < size) {
-        Record record;
-        record.line = line;
-        for (;;) {
-            QString field;
-            if (text[at] == u'"') {
-                const int quoteLine = line;
-                ++at;
-                bool closed = false;
-                while (at < size) {
-                    if (text[at] == u'"') {
-                        if (at + 1 < size && text[at + 1] == u'"') {
-                            field += u'"';
-                            at += 2;
-                            continue;
-                        }
-                        ++at;
-                        closed = true;
-                        break;
-                    }
-                    if (lineBreakAt(at)) {
-                        const qsizetype start = at;
-                        skipLineBreak();
-                        field += text.sliced(start, at - start);
-                        continue;
-                    }
-                    field += text[at++];
-                }
-                if (!closed) {
-                    result.unclosedQuoteLine = quoteLine;
-                    return result;
-                }
-            }
-            // The rest of the field up to the separator or the line's end is text.
-            const qsizetype start = at;
-            while (at < size && text[at] != separator && !lineBreakAt(at))
-                ++at;
-            field += text.sliced(start, at - start);
-            if (!result.nulLine && field.contains(QChar(0)))
-                result.nulLine = record.line;
-            record.fields << field;
-            if (at < size && text[at] == separator) {
-                ++at;
-                if (at < size)
-                    continue;
-                record.fields << QString(); // a separator ends the text: one more, empty field
-            }
-            break;
-        }
-        if (at < size)
-            skipLineBreak();
+    result.nulLine = nulLineOf(text);
+    RecordReader reader(text, separator);
+    Record record;
+    while (reader.next(record))
         result.records.push_back(std::move(record));
-    }
+    result.unclosedQuoteLine = reader.unclosedQuoteLine();
     return result;
 }
 

@@ -25,6 +25,32 @@ struct RecordList {
     int nulLine = 0;           // the first line holding a NUL character: not a text file; 0: none
 };
 
+// Reads the records of a text one by one, as readRecords tells.
+class RecordReader {
+public:
+    RecordReader(const QString& text, QChar separator);
+    // The next record; false at the end of the text, or at a field in quotes
+    // that never ends (unclosedQuoteLine then says where it begins).
+    bool next(Record& record);
+    int unclosedQuoteLine() const { return unclosedQuoteLine_; }
+    // How far the reading has come, in characters of the text.
+    qsizetype position() const { return at_; }
+
+private:
+    bool lineBreakAt(qsizetype i) const { return data_[i] == u'\n' || data_[i] == u'\r'; }
+    void skipLineBreak();
+
+    const QChar* data_;
+    qsizetype size_;
+    QChar separator_;
+    qsizetype at_ = 0;
+    int line_ = 1;
+    int unclosedQuoteLine_ = 0;
+};
+
+// The line of the first NUL character in the text: not a text file; 0: none.
+int nulLineOf(const QString& text);
+
 // The records of the text, cut at one separator character as RFC 4180 has it: a
 // field in double quotes may hold the separator, line breaks and "" for a quote;
 // a quote inside a field that doesn't begin with one is text. A line ends at LF,

@@ -8,6 +8,8 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include <deque>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,6 +37,8 @@ QString field(const Record& record, int column)
 // A text for a cell: its line breaks as one blank each.
 QString cellText(QString text)
 {
+    if (!text.contains(u'\n') && !text.contains(u'\r'))
+        return text;
     static const QRegularExpression lineBreak(u"\r\n|\r|\n"_s);
     return text.replace(lineBreak, u" "_s);
 }
@@ -170,30 +174,42 @@ ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, con
         plan.refusal = line > 0 ? u"line %1: %2"_s.arg(line).arg(why) : why;
         return plan;
     };
-    const RecordList records = readRecords(decodeImportText(bytes), mapping.separator);
-    if (records.unclosedQuoteLine > 0)
-        return refuse(records.unclosedQuoteLine, u"a field in quotes begins here and never ends"_s);
-    if (records.nulLine > 0)
-        return refuse(records.nulLine, u"this is not a text file: the line holds a NUL character"_s);
-    const int total = int(records.records.size());
-    const int first = std::max(mapping.skipFirst, 0);
-    const int end = total - std::max(mapping.skipLast, 0);
-    for (int i = first; i < end; ++i) {
-        if (progress && (i - first) % kProgressEvery == 0 && !progress(i - first, end - first)) {
+    const QString text = decodeImportText(bytes);
+    if (const int nulLine = nulLineOf(text); nulLine > 0)
+        return refuse(nulLine, u"this is not a text file: the line holds a NUL character"_s);
+    // Records are judged as they are read; the last skipLast wait until the end
+    // shows they are the last.
+    RecordReader reader(text, mapping.separator);
+    std::deque<Record> held;
+    const auto heldBack = std::size_t(std::max(mapping.skipLast, 0));
+    int index = 0;
+    bool anyAfterSkipping = false;
+    Record record;
+    while (reader.next(record)) {
+        if (index++ < mapping.skipFirst)
+            continue;
+        held.push_back(std::move(record));
+        if (held.size() <= heldBack)
+            continue;
+        const Record current = std::move(held.front());
+        held.pop_front();
+        anyAfterSkipping = true;
+        if (progress && index % kProgressEvery == 0 && !progress(int(reader.position()), int(text.size()))) {
             plan.rows.clear();
             plan.cancelled = true;
             return plan;
         }
-        const Record& record = records.records[i];
-        RecordVerdict verdict = judgeRecord(record, mapping);
+        RecordVerdict verdict = judgeRecord(current, mapping);
         if (verdict.state == RecordState::Refused)
-            return refuse(record.line, verdict.problem);
+            return refuse(current.line, verdict.problem);
         if (verdict.state == RecordState::Imported)
             plan.rows.push_back(std::move(verdict.row));
     }
+    if (reader.unclosedQuoteLine() > 0)
+        return refuse(reader.unclosedQuoteLine(), u"a field in quotes begins here and never ends"_s);
     if (plan.rows.empty())
-        return refuse(0, end <= first ? u"There is nothing to import after the lines skipped."_s
-                                      : u"The file holds no transaction to import."_s);
+        return refuse(0, anyAfterSkipping ? u"The file holds no transaction to import."_s
+                                          : u"There is nothing to import after the lines skipped."_s);
 
     // One to one: each row of the ledger makes at most one imported row a duplicate.
     QHash<QString, int> ledger;
@@ -211,6 +227,6 @@ ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, con
         }
     }
     if (progress)
-        progress(end - first, end - first);
+        progress(int(text.size()), int(text.size()));
     return plan;
 }

@@ -80,8 +80,8 @@ struct ImportPlan {
 };
 
 // Reads the whole file and decides the rows it gives, stopping at the first
-// refusal. progress(records done, records in all) is asked now and then; its
-// false cancels. Duplicates are matched against the ledger's transactions one
+// refusal. progress(characters read, characters in all) is asked now and then;
+// its false cancels. Duplicates are matched against the ledger's transactions one
 // to one: a ledger row makes one imported row a duplicate at most.
 ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, const Listbox& transactions,
                       const std::function<bool(int done, int total)>& progress = {});
