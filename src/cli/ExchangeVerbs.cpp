@@ -3,6 +3,7 @@
 
 #include "books/FileStore.h"
 #include "engine/RowLayouts.h"
+#include "engine/TransactionEntry.h"
 #include "exchange/CsvExport.h"
 #include "exchange/TransactionImport.h"
 
@@ -19,7 +20,7 @@ bool wholeNumber(const QString& text, int& value)
     return ok && value >= 0 && !text.startsWith(u'+');
 }
 
-// --map SPEC, comma-separated keys: a column number, or for the account the
+// --map MAP, comma-separated keys: a column number, or for the account the
 // name of an account for every row; a key left out is column 0.
 std::optional<ImportMapping> mappingOf(const QCommandLineParser& parser)
 {
@@ -109,12 +110,11 @@ int importVerb(const Invocation& call)
         return 1;
     ImportMapping mapping = *mappingOf(call.parser);
     if (!mapping.fixedAccount.isEmpty()) {
-        // The account as the ledger spells it.
-        const int row = selectAccount(Invocation{call.parser, {call.words[0], call.words[1], mapping.fixedAccount},
-                                                 call.dataFolder, call.out, call.err},
-                                      ledger.books);
-        if (row < 0)
-            return 1;
+        // An account the window's menu offers, as the ledger spells it.
+        const int row = accountMenuItem(ledger.books.accountsBox, mapping.fixedAccount);
+        if (row == 0)
+            return refused(call, u"there is no account named \"%1\" in the ledger \"%2\""_s.arg(
+                                     mapping.fixedAccount, ledger.books.theLedger));
         mapping.fixedAccount = ledger.books.accountsBox.Cell(row, AccountCol::Name);
     }
     const FileContent file = readPlainFile(call.words[2]);

@@ -83,6 +83,6 @@ bool printOptionsUsable(const QCommandLineParser& parser);
 int printVerb(const Invocation& call);
 
 int exportVerb(const Invocation& call);
-// --map SPEC and the other options of import read as they should.
+// --map and the other options of import read as they should.
 bool importOptionsUsable(const QCommandLineParser& parser);
 int importVerb(const Invocation& call);

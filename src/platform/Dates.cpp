@@ -213,6 +213,11 @@ QStringView trimmedBlanks(QStringView text)
 
 } // namespace
 
+bool readStoredDate(QStringView text, QDate& date)
+{
+    return text.size() == 10 && readStoredForm(text, date);
+}
+
 int yearOfTwoDigits(int twoDigits)
 {
     const int year = 2000 + twoDigits;

@@ -16,6 +16,10 @@
 // Only real dates of the years 1 to 9999 are read: "2014-02-30" fails.
 bool ParseDate(QStringView text, QDate& date);
 
+// Reads a date cell exactly as the books write it, YYYY-MM-DD with both places of
+// month and day: "2014-03-09" reads, "2014-3-9" and "2014-02-30" don't.
+bool readStoredDate(QStringView text, QDate& date);
+
 // The year a two-digit year stands for: at most 20 years after the current year
 // by the clock ("46" is 2046 and "47" is 1947 in 2026).
 int yearOfTwoDigits(int twoDigits);

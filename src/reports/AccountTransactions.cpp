@@ -2,6 +2,7 @@
 
 #include "books/rowtable/Listbox.h"
 #include "engine/RowLayouts.h"
+#include "platform/Dates.h"
 #include "platform/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -59,10 +60,8 @@ QString selectedAccountBalance(const Listbox& accounts)
 
 QDateTime lineMoment(QStringView dateCell)
 {
-    if (dateCell.size() != 10 || dateCell[4] != u'-' || dateCell[7] != u'-')
-        return {};
-    const QDate day = QDate::fromString(dateCell.toString(), u"yyyy-MM-dd"_s);
-    return day.isValid() ? QDateTime(day, QTime(0, 0)) : QDateTime();
+    QDate day;
+    return readStoredDate(dateCell, day) ? QDateTime(day, QTime(0, 0)) : QDateTime();
 }
 
 DateRangeResult applyDateRange(Listbox& list, const QDateTime& from, const QDateTime& to)

@@ -127,19 +127,8 @@ bool loadLedger(Listbox& report, const Listbox& accounts, const Listbox& transac
 bool loadLedgerYear(Listbox& report, const Listbox& accounts, const Listbox& transactions, const QString& yearText)
 {
     return buildReport(report, accounts, transactions, [&yearText](QStringView date) {
-        const auto digits = [&date](int from, int count) {
-            int number = 0;
-            for (int i = from; i < from + count; ++i) {
-                if (date[i] < u'0' || date[i] > u'9')
-                    return -1;
-                number = number * 10 + (date[i].unicode() - u'0');
-            }
-            return number;
-        };
-        if (date.size() != 10 || date[4] != u'-' || date[7] != u'-')
-            return false;
-        const int year = digits(0, 4);
-        return QDate::isValid(year, digits(5, 2), digits(8, 2)) && Str(year) == yearText;
+        QDate day;
+        return readStoredDate(date, day) && Str(day.year()) == yearText;
     });
 }
 

@@ -62,28 +62,27 @@ void ListboxPrinter::printRows(Graphics& g, const PrinterSetup& setup, bool fitT
         // pages, a whole number of its lines on each, so no text falls off the
         // foot of a page. A row of one line stays whole, as the system prints it.
         const int pitch = std::max(g.StringHeight(u"\n"_s, 0) - g.TextHeight(), 1);
-        int shown = 0;
-        for (;;) {
-            const int room = setup.Height() - y;
-            const int top = y - shown; // where the row begins, as this page reckons
-            if (shown > 0)
-                g.setClip(QRect(0, y, g.Width(), setup.Height() + height));
-            if (height - shown <= std::max(room, pitch)) {
-                for (int column = 0; column < grid.ColumnCount(); ++column) {
-                    int cellHeight = 0;
-                    printCell(row, column, g, cellPositions[column], top, widths[column], cellHeight);
-                }
-                g.clearClip();
-                y = top + height + kRowGap;
-                break;
-            }
-            const int visible = std::max(room / pitch, 1) * pitch;
-            g.setClip(QRect(0, y, g.Width(), visible));
+        const auto printRowAt = [&](int top) {
             for (int column = 0; column < grid.ColumnCount(); ++column) {
                 int cellHeight = 0;
                 printCell(row, column, g, cellPositions[column], top, widths[column], cellHeight);
             }
             g.clearClip();
+        };
+        int shown = 0;
+        for (;;) {
+            const int room = setup.Height() - y;
+            const int top = y - shown; // where the row begins, as this page reckons
+            if (height - shown <= std::max(room, pitch)) {
+                if (shown > 0)
+                    g.setClip(QRect(0, y, g.Width(), setup.Height() + height));
+                printRowAt(top);
+                y = top + height + kRowGap;
+                break;
+            }
+            const int visible = std::max(room / pitch, 1) * pitch;
+            g.setClip(QRect(0, y, g.Width(), visible));
+            printRowAt(top);
             shown += visible;
             nextPage();
         }
