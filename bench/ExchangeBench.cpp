@@ -6,6 +6,7 @@
 #include "exchange/CsvExport.h"
 #include "exchange/TransactionImport.h"
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 #include "reference/GeneratedLedger.h"
 
 #include <QDir>
@@ -44,7 +45,7 @@ void BM_Import(benchmark::State& state)
         summary.LedgerList.SetListIndex(0);
         state.ResumeTiming();
         const ImportPlan plan = planImport(file, ImportMapping(), summary.transBox);
-        summary.importTransactions(plan.rows, false);
+        TransactionOperations(summary).appendTransactions(transactionRows(plan.rows, false));
         state.PauseTiming();
         state.counters["rows"] = double(plan.rows.size());
         state.ResumeTiming();

@@ -6,6 +6,7 @@
 #include "engine/RowLayouts.h"
 #include "engine/TransactionEntry.h"
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 #include "platform/BlockingServices.h"
 #include "platform/Clock.h"
 #include "reference/GeneratedLedger.h"
@@ -51,7 +52,7 @@ void BM_AddTransaction(benchmark::State& state)
     form.date = QDate(2010, 1, 1);
     form.description = u"Benchmark"_s;
     for (auto _ : state)
-        ledger.books->editAddTransaction(form, false);
+        TransactionOperations(*ledger.books).editAddTransaction(form, false);
     state.SetItemsProcessed(state.iterations());
 }
 
@@ -79,7 +80,7 @@ void BM_DeleteThousandSelectedRows(benchmark::State& state)
             rows.push_back(row);
         ledger.books->transBox.setSelectedRows(rows);
         state.ResumeTiming();
-        ledger.books->deleteSelectedTransactions();
+        TransactionOperations(*ledger.books).deleteSelectedTransactions();
     }
     installBlockingServices(previous);
 }
@@ -90,7 +91,7 @@ void BM_Transfer(benchmark::State& state)
     const QString from = ledger.books->accountsBox.Cell(3, AccountCol::Name);
     const QString to = ledger.books->accountsBox.Cell(7, AccountCol::Name);
     for (auto _ : state)
-        ledger.books->doTransferFromTo(from, to, 12.5, QDate(2010, 1, 1));
+        TransactionOperations(*ledger.books).doTransferFromTo(from, to, 12.5, QDate(2010, 1, 1));
 }
 
 } // namespace

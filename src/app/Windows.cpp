@@ -8,7 +8,9 @@
 #include "engine/ui/AccountWindow.h"
 #include "engine/ui/TransactionWindow.h"
 #include "engine/ui/transferWindow.h"
+#include "exchange/TransactionImport.h"
 #include "exchange/ui/CustomImportWindow.h"
+#include "ledger/TransactionOperations.h"
 #include "mainwindow/SummaryWindow.h"
 #include "reports/ui/indAccWindow.h"
 #include "reports/ui/ledgerWindow.h"
@@ -128,7 +130,7 @@ void forgetOnClose(QWidget* window, std::function<void()> forget)
         return new ::CustomImportWindow(
             books.accountsBox, books.transBox,
             [&books](const std::vector<ImportedRow>& rows, bool skipDuplicates) {
-                return books.importTransactions(rows, skipDuplicates);
+                return TransactionOperations(books).appendTransactions(transactionRows(rows, skipDuplicates));
             },
             summary);
     });

@@ -50,16 +50,16 @@ int newLedger(const Invocation& call)
         return refused(call, u"the folder %1 can't be made"_s.arg(AppFolders::books(call.dataFolder)));
     SummaryBooks books(folder);
     books.probeSeparator();
-    if (!books.addLedger(call.words[1]))
+    if (!books.shelf.addLedger(call.words[1]))
         return 1; // its message is told with the others
     // A ledger whose files were left behind opens with accounts; one is
     // recalculated, the other gets its Base Account.
     const bool hasAccounts = books.accountsBox.ListCount() > 0;
     if (hasAccounts)
         books.calcAll();
-    books.saveBooks();
+    books.shelf.saveBooks();
     if (!hasAccounts)
-        books.saveAccount(base, true, -1, {});
+        AccountOperations(books).saveAccount(base, true, -1, {});
     return 0;
 }
 
@@ -70,7 +70,7 @@ int addAccountVerb(const Invocation& call)
         return 1;
     const AccountFields fields{call.words[2], call.isSet(u"revenue"_s) ? u"Revenue"_s : u"Expense"_s,
                                typedOr(call, u"opening"_s, {}), typedOr(call, u"notes"_s, {})};
-    if (const QString problem = ledger.books.saveAccount(fields, true, -1, {}); !problem.isEmpty())
+    if (const QString problem = AccountOperations(ledger.books).saveAccount(fields, true, -1, {}); !problem.isEmpty())
         return refused(call, problem);
     return 0;
 }
@@ -90,7 +90,7 @@ int editAccountVerb(const Invocation& call)
     fields.notes = typedOr(call, u"notes"_s, fields.notes);
     // Typing a name, even the same one, makes the dialog check it.
     const bool nameTyped = call.isSet(u"rename"_s);
-    if (const QString problem = ledger.books.saveAccount(fields, nameTyped, row, oldName); !problem.isEmpty())
+    if (const QString problem = AccountOperations(ledger.books).saveAccount(fields, nameTyped, row, oldName); !problem.isEmpty())
         return refused(call, problem);
     return 0;
 }
@@ -101,6 +101,6 @@ int deleteAccountVerb(const Invocation& call)
     if (!ledger.open || selectAccount(call, ledger.books) < 0)
         return 1;
     // A refusal is a message, told with the others.
-    ledger.books.deleteSelectedAccount();
+    AccountOperations(ledger.books).deleteSelectedAccount();
     return 0;
 }

@@ -129,7 +129,7 @@ int importVerb(const Invocation& call)
         return refused(call, u"%1 of the transactions are in the ledger already; give --duplicates keep or skip"_s.arg(
                                  plan.duplicates));
     const bool skip = call.value(u"duplicates"_s) == u"skip";
-    const int imported = ledger.books.importTransactions(plan.rows, skip);
+    const int imported = TransactionOperations(ledger.books).appendTransactions(transactionRows(plan.rows, skip));
     call.out << imported << " transactions imported";
     if (skip && plan.duplicates > 0)
         call.out << ", " << plan.duplicates << " already in the ledger skipped";

@@ -61,6 +61,6 @@ int storeRepeats(const Invocation& call)
     OpenLedger ledger(call);
     if (!ledger.open)
         return 1;
-    ledger.books.saveOpenLedger(); // as the window stores its ledger on closing
+    ledger.books.storeBoth(); // as the window stores its ledger on closing
     return 0;
 }

@@ -28,7 +28,7 @@ int findVerb(const Invocation& call)
     OpenLedger ledger(call);
     if (!ledger.open)
         return 1;
-    ledger.books.findTrans(call.words[2]);
+    TransactionOperations(ledger.books).findTrans(call.words[2]);
     const Listbox& transactions = ledger.books.transBox;
     for (int row = 0; row < transactions.ListCount(); ++row)
         if (transactions.Selected(row))
@@ -45,7 +45,7 @@ int deleteTransactionsVerb(const Invocation& call)
     if (!rows)
         return 1;
     ledger.books.transBox.setSelectedRows(*rows);
-    ledger.books.deleteSelectedTransactions(); // confirmed by the command itself
+    TransactionOperations(ledger.books).deleteSelectedTransactions(); // confirmed by the command itself
     return 0;
 }
 

@@ -73,7 +73,7 @@ int openForEditing(const Invocation& call, SummaryBooks& books, TransactionForm&
                           : u"OK can't be pressed: it needs an account and an amount"_s);
         return -1;
     }
-    books.storeTransactions(); // opening the row for editing stores transBox
+    books.store(LedgerFiles::Table::Transactions); // opening the row for editing stores transBox
     return row;
 }
 
@@ -91,9 +91,9 @@ int addTransactionVerb(const Invocation& call)
     if (gst ? !gstEnabled(form) : !okEnabled(form))
         return refused(call, gst ? u"the GST button needs an amount, an adjustment and a withdrawal"_s
                                  : u"OK can't be pressed: it needs an account and an amount"_s);
-    ledger.books.editAddTransaction(form, false);
+    TransactionOperations(ledger.books).editAddTransaction(form, false);
     if (gst)
-        ledger.books.doGST(form);
+        TransactionOperations(ledger.books).doGST(form);
     return 0;
 }
 
@@ -105,7 +105,7 @@ int editTransactionVerb(const Invocation& call)
     TransactionForm form = newForm();
     if (openForEditing(call, ledger.books, form, false) < 0)
         return 1;
-    ledger.books.editAddTransaction(form, true);
+    TransactionOperations(ledger.books).editAddTransaction(form, true);
     return 0;
 }
 
@@ -117,8 +117,8 @@ int gstVerb(const Invocation& call)
     TransactionForm form = newForm();
     if (openForEditing(call, ledger.books, form, true) < 0)
         return 1;
-    ledger.books.editAddTransaction(form, true);
-    ledger.books.doGST(form);
+    TransactionOperations(ledger.books).editAddTransaction(form, true);
+    TransactionOperations(ledger.books).doGST(form);
     return 0;
 }
 
@@ -145,7 +145,7 @@ int transferVerb(const Invocation& call)
         return refused(call, u"the amount to transfer must be above 0"_s);
     const QDate date = call.isSet(u"date"_s) ? QDate::fromString(call.value(u"date"_s), u"yyyy-MM-dd"_s)
                                              : Clock::today();
-    if (const QString problem = ledger.books.doTransferFromTo(names[0], names[1], amount, date); !problem.isEmpty())
+    if (const QString problem = TransactionOperations(ledger.books).doTransferFromTo(names[0], names[1], amount, date); !problem.isEmpty())
         return refused(call, problem);
     ledger.books.CheckRepeats(); // the window's closing
     return 0;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 
 #include <QCommandLineParser>
 #include <QStringList>

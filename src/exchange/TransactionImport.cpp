@@ -230,3 +230,20 @@ ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, con
         progress(int(text.size()), int(text.size()));
     return plan;
 }
+
+std::vector<Listbox::Row> transactionRows(const std::vector<ImportedRow>& rows, bool skipDuplicates)
+{
+    std::vector<Listbox::Row> made;
+    made.reserve(rows.size());
+    for (const ImportedRow& row : rows) {
+        if (skipDuplicates && row.duplicate)
+            continue;
+        QStringView cells[TransCol::Count];
+        cells[TransCol::Account] = row.account;
+        cells[TransCol::Date] = row.date;
+        cells[TransCol::Description] = row.description;
+        cells[TransCol::Transaction] = row.amount;
+        made.emplace_back(cells, TransCol::Count, TransCol::Count);
+    }
+    return made;
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "books/rowtable/Listbox.h"
 #include "exchange/ImportFields.h"
 #include "exchange/ImportText.h"
 
@@ -9,7 +10,6 @@
 #include <functional>
 #include <vector>
 
-class Listbox;
 
 // The import of a delimited text file into the open ledger's transactions,
 // without any widget: the mapping of its columns, the verdict on each record,
@@ -85,3 +85,7 @@ struct ImportPlan {
 // to one: a ledger row makes one imported row a duplicate at most.
 ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, const Listbox& transactions,
                       const std::function<bool(int done, int total)>& progress = {});
+
+// The plan's rows as transBox rows, in their order, without the duplicates when
+// they are to be skipped: account, date, description and amount.
+std::vector<Listbox::Row> transactionRows(const std::vector<ImportedRow>& rows, bool skipDuplicates);

@@ -5,6 +5,7 @@
 #include "books/rowtable/ui/ListboxView.h"
 #include "books/ui/newBookWindow.h"
 #include "engine/RowLayouts.h"
+#include "ledger/AccountOperations.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/SummaryColours.h"
 #include "mainwindow/Toolbar1.h"
@@ -118,11 +119,6 @@ SummaryWindow::SummaryWindow(SummaryDialogs dialogs, QWidget* parent)
     Event_Open();
 }
 
-SummaryWindow::~SummaryWindow()
-{
-    // The grids go before the tables they show, which are members of this window.
-    delete centralWidget();
-}
 
 QWidget* SummaryWindow::buildLedgerColumn(QWidget* parent)
 {
@@ -296,7 +292,7 @@ void SummaryWindow::PushButton3_Action()
 
 void SummaryWindow::PushButton4_Action()
 {
-    books_.deleteLedger();
+    books_.shelf.deleteLedger();
 }
 
 void SummaryWindow::showEvent(QShowEvent* event)
@@ -313,7 +309,7 @@ void SummaryWindow::showEvent(QShowEvent* event)
 
 bool SummaryWindow::accountsBox_DragReorderRows(int newPosition, int parentRow)
 {
-    return books_.accountsBox_DragReorderRows(newPosition, parentRow);
+    return AccountOperations(books_).accountsBox_DragReorderRows(newPosition, parentRow);
 }
 
 void SummaryWindow::showTotals()
@@ -324,12 +320,12 @@ void SummaryWindow::showTotals()
 
 void SummaryWindow::saveWindowData()
 {
-    writeWindowData(books_.listboxManager.ProgramDataFolder, geometry());
+    writeWindowData(books_.files.manager.ProgramDataFolder, geometry());
 }
 
 void SummaryWindow::Close()
 {
-    books_.saveOpenLedger();
+    books_.storeBoth();
     saveWindowData();
 }
 

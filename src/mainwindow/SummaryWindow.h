@@ -26,7 +26,6 @@ class SummaryWindow : public smartWindow {
 
 public:
     explicit SummaryWindow(SummaryDialogs dialogs, QWidget* parent = nullptr);
-    ~SummaryWindow() override;
 
     SummaryBooks& books() { return books_; }
 

@@ -1,5 +1,7 @@
 // The main window's commands: menu bar, toolbar, the accounts' double click and
 // the context menu of the transactions.
+#include "ledger/AccountOperations.h"
+#include "ledger/TransactionOperations.h"
 #include "mainwindow/SummaryWindow.h"
 
 #include "books/rowtable/ui/ListboxView.h"
@@ -155,11 +157,7 @@ void SummaryWindow::addtransbtn_Action()
 {
     if (books_.LedgerList.ListIndex() == -1)
         return;
-    ::TransactionWindow* dialog = dialogs_.TransactionWindow();
-    if (books_.accountsBox.ListIndex() > 0)
-        dialog->chooseAccount(books_.accountsBox.ListIndex());
-    dialog->whichWindow = this;
-    dialog->show();
+    dialogs_.TransactionWindow()->addTransaction(this, books_.accountsBox.ListIndex());
 }
 
 void SummaryWindow::editTransaction()
@@ -172,12 +170,12 @@ void SummaryWindow::editTransaction()
 
 void SummaryWindow::deltransbtn_Action()
 {
-    books_.deleteSelectedTransactions();
+    TransactionOperations(books_).deleteSelectedTransactions();
 }
 
 void SummaryWindow::findTrans()
 {
-    books_.findTrans(EditField11->text());
+    TransactionOperations(books_).findTrans(EditField11->text());
     endSearch1->show();
     transBoxView->setFocus();
 }
@@ -204,7 +202,7 @@ void SummaryWindow::Toolbar11_Action(QAction* item)
             return MsgBox(kNoLedger);
         _FileNewAccount_Action();
     } else if (name == u"Delete") {
-        books_.deleteSelectedAccount();
+        AccountOperations(books_).deleteSelectedAccount();
         return; // the calculation redraws the tables
     } else if (name == u"Edit") {
         editAccount();
@@ -282,12 +280,12 @@ bool SummaryWindow::transBox_CellClick(int, int column, int, int, bool contextua
 
 bool SummaryWindow::transBox_ConstructContextualMenu(QMenu& menu)
 {
-    for (const QString& text : books_.transBox_ContextualMenuItems())
+    for (const QString& text : TransactionOperations(books_).transBox_ContextualMenuItems())
         menu.addAction(text);
     return true;
 }
 
 void SummaryWindow::transBox_ContextualMenuAction(QAction* item)
 {
-    books_.transBox_ContextualMenuAction(item->text());
+    TransactionOperations(books_).transBox_ContextualMenuAction(item->text());
 }

@@ -1,6 +1,7 @@
 // The account dialog's OK without the dialog: the refusals, adding and editing,
 // and what reaches the ledger's files.
 #include "engine/RowLayouts.h"
+#include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
@@ -63,15 +64,15 @@ TEST_F(AccountRulesTest, ARefusedAccountChangesNothing)
     const QByteArray transactions = readBytes(transPath());
     // Any row counts, the Base Account too, in any letter case; so does the
     // edited row's own name when the name was typed at all.
-    EXPECT_EQ(books.saveAccount(fields(u"cash"_s), true, -1, {}), kNameInUse);
-    EXPECT_EQ(books.saveAccount(fields(u"RENT"_s), true, -1, {}), kNameInUse);
-    EXPECT_EQ(books.saveAccount(fields(u"rent"_s), true, 2, u"Rent"_s), kNameInUse);
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"cash"_s), true, -1, {}), kNameInUse);
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"RENT"_s), true, -1, {}), kNameInUse);
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"rent"_s), true, 2, u"Rent"_s), kNameInUse);
     // Text that would break a row of the files.
     for (const AccountFields& breaking : {fields(u"Tips@#@Jar"_s), fields(u"Tips"_s, u"Expense"_s, u"1\n2"_s),
                                           fields(u"Tips"_s, u"Expense"_s, {}, u"line\rbreak"_s),
                                           fields(u"Tips@#"_s) /* runs into the separator after it */})
-        EXPECT_TRUE(books.saveAccount(breaking, true, -1, {}).startsWith(u"An account can't hold the text \"@#@\""));
-    EXPECT_FALSE(books.saveAccount(fields(u"Rent@#@"_s), false, 2, u"Rent"_s).isEmpty()) << "also with no name check";
+        EXPECT_TRUE(AccountOperations(books).saveAccount(breaking, true, -1, {}).startsWith(u"An account can't hold the text \"@#@\""));
+    EXPECT_FALSE(AccountOperations(books).saveAccount(fields(u"Rent@#@"_s), false, 2, u"Rent"_s).isEmpty()) << "also with no name check";
 
     EXPECT_EQ(books.accountsBox.ListCount(), 3);
     EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Sales"_s, u"Rent"_s}));
@@ -83,14 +84,14 @@ TEST_F(AccountRulesTest, ARefusedAccountChangesNothing)
 
 TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
 {
-    EXPECT_EQ(books.saveAccount(fields(u"Tips"_s, u"Revenue"_s, {}, u"jar by the till"_s), true, -1, {}), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Tips"_s, u"Revenue"_s, {}, u"jar by the till"_s), true, -1, {}), u"");
     EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Number), u"999");
     EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Type), u"Revenue");
     EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Opening), u"0.00") << "an empty opening";
     EXPECT_EQ(books.accountsBox.rowPicture(3), RowPicture::accountPlus9);
     EXPECT_TRUE(readBytes(accountsPath()).endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar by the till@#@\n"));
 
-    EXPECT_EQ(books.saveAccount(fields(u"Fuel"_s, u"Expense"_s, u"12.5"_s), true, -1, {}), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Fuel"_s, u"Expense"_s, u"12.5"_s), true, -1, {}), u"");
     EXPECT_EQ(books.accountsBox.rowPicture(4), RowPicture::accountMinus9);
     EXPECT_TRUE(readBytes(accountsPath()).endsWith("999@#@Fuel@#@Expense@#@12.5@#@0@#@12.5@#@@#@\n"))
         << "the opening as typed; the balance from the calculation";
@@ -98,8 +99,8 @@ TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
     // The first account of an empty ledger gets the book; the next one its type's.
     books.LedgerList.SetListIndex(1);
     ASSERT_EQ(books.accountsBox.ListCount(), 0);
-    EXPECT_EQ(books.saveAccount(fields(u"Balance"_s, u""_s, u"250"_s), true, -1, {}), u"");
-    EXPECT_EQ(books.saveAccount(fields(u"Wages"_s, u"Revenue"_s), true, -1, {}), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Balance"_s, u""_s, u"250"_s), true, -1, {}), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Wages"_s, u"Revenue"_s), true, -1, {}), u"");
     EXPECT_EQ(books.accountsBox.rowPicture(0), RowPicture::BookIcon);
     EXPECT_EQ(books.accountsBox.rowPicture(1), RowPicture::accountPlus9);
     EXPECT_EQ(readBytes(home.books() + u"/  EmptyAccountData"_s),
@@ -109,7 +110,7 @@ TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
 
 TEST_F(AccountRulesTest, EditingRenamesTheTransactionsAndKeepsTheRowInPlace)
 {
-    EXPECT_EQ(books.saveAccount(fields(u"Takings"_s, u"Revenue"_s, {}, u"the till"_s), true, 1, u"Sales"_s), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Takings"_s, u"Revenue"_s, {}, u"the till"_s), true, 1, u"Sales"_s), u"");
     EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Takings"_s, u"Rent"_s}));
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Number), u"");
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Opening), u"0.00") << "an empty opening after the calculation";
@@ -119,8 +120,8 @@ TEST_F(AccountRulesTest, EditingRenamesTheTransactionsAndKeepsTheRowInPlace)
     EXPECT_EQ(readBytes(transPath()).count("@#@Takings@#@"), 2);
 
     // An edit that leaves the name alone still gives the transactions its spelling.
-    EXPECT_EQ(books.saveAccount(fields(u"Rent"_s), false, 2, u"rent"_s), u"");
-    EXPECT_EQ(books.saveAccount(fields(u"RENT"_s), false, 2, u"Rent"_s), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Rent"_s), false, 2, u"rent"_s), u"");
+    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"RENT"_s), false, 2, u"Rent"_s), u"");
     EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"RENT");
     EXPECT_TRUE(readBytes(transPath()).contains("@#@RENT@#@2026-01-04@#@"));
 }

@@ -3,6 +3,7 @@
 // a pipe, nothing waits, and a file that couldn't be read isn't written over.
 #include "books/prefsDictionary.h"
 #include "engine/RowLayouts.h"
+#include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
 #include "support/DataFolder.h"
 #include "support/FailingSaves.h"
@@ -85,13 +86,13 @@ TEST_F(BookFilesTest, ABadLineOfTheListStillListsAndOpeningItSaysWhy)
             << platform.messages[0].toStdString();
         // Whatever the user does with it stores nothing anywhere, and says so.
         platform.messages.clear();
-        EXPECT_EQ(books.saveAccount(AccountFields{u"Balance"_s, {}, u"5"_s, {}}, true, -1, {}), u"");
+        EXPECT_EQ(AccountOperations(books).saveAccount(AccountFields{u"Balance"_s, {}, u"5"_s, {}}, true, -1, {}), u"");
         books.calcAll();
         EXPECT_EQ(platform.messages.size(), 2);
         for (const QString& message : platform.messages)
             EXPECT_TRUE(message.startsWith(u"Quillmark couldn't save the ledger \"%1\": "_s.arg(name.mid(2))));
     }
-    books.saveBooks();
+    books.shelf.saveBooks();
     EXPECT_EQ(tree(home.path()), before);
     EXPECT_TRUE(QDir(outside.path()).isEmpty());
 }
@@ -123,7 +124,7 @@ TEST_F(BookFilesTest, WhatIsNoPlainFileIsNeitherReadNorWrittenThrough)
 
     platform.messages.clear();
     books.calcAll();
-    books.saveBooks();
+    books.shelf.saveBooks();
     prefsDictionary::savePreferences();
     EXPECT_EQ(platform.messages.size(), 3);
     for (const QString& message : platform.messages)

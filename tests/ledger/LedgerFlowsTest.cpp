@@ -73,7 +73,7 @@ TEST_F(LedgerFlowsTest, ReadsTheListWithNoLedgerOpen)
     EXPECT_EQ(books.LedgerList.ListIndex(), -1);
     EXPECT_EQ(books.accountsBox.ListCount(), 0);
 
-    books.saveBooks();
+    books.shelf.saveBooks();
     EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n")) << "the blanks are written back";
 }
 
@@ -162,12 +162,12 @@ TEST_F(LedgerFlowsTest, RefusedRenamesTouchNoFile)
 TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
 {
     SummaryBooks books(home.books());
-    books.deleteLedger();
+    books.shelf.deleteLedger();
     EXPECT_TRUE(platform.dialogs.empty()) << "no ledger selected: nothing happens";
 
     books.LedgerList.SetListIndex(0);
     const Folder before = snapshot();
-    books.deleteLedger(); // answered Cancel
+    books.shelf.deleteLedger(); // answered Cancel
     ASSERT_EQ(platform.dialogs.size(), 1u);
     const MessageDialog& asked = platform.dialogs[0];
     EXPECT_EQ(asked.Message, u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?");
@@ -178,7 +178,7 @@ TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
     EXPECT_EQ(books.theLedger, u"  Shop");
 
     platform.answerNextDialog(MessageDialog::Button::Action);
-    books.deleteLedger();
+    books.shelf.deleteLedger();
     EXPECT_EQ(ledgerNames(books), QStringList{u"  Home"_s});
     EXPECT_EQ(books.theLedger, u"");
     EXPECT_FALSE(books.deletingOn);
@@ -192,7 +192,7 @@ TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
 
     books.LedgerList.SetListIndex(0);
     platform.answerNextDialog(MessageDialog::Button::Action);
-    books.deleteLedger();
+    books.shelf.deleteLedger();
     EXPECT_EQ(readBytes(bookList()), QByteArray()) << "the last ledger gone leaves an empty list";
     EXPECT_TRUE(fileExists(bookList()));
 }
@@ -203,7 +203,7 @@ TEST_F(LedgerFlowsTest, NewLedgerOpensEmptyAfterStoringTheOneLeft)
     books.LedgerList.SetListIndex(0);
     writeBook(u"  ShopTransData"_s, "@#@Sales@#@2014-03-09@#@From the file@#@\n");
 
-    ASSERT_TRUE(books.addLedger(u"Garden"_s));
+    ASSERT_TRUE(books.shelf.addLedger(u"Garden"_s));
     EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s, u"  Garden"_s}));
     EXPECT_EQ(books.LedgerList.ListIndex(), 2);
     EXPECT_EQ(books.LedgerList.rowPicture(2), RowPicture::Book_Icon32);
@@ -217,7 +217,7 @@ TEST_F(LedgerFlowsTest, NewLedgerOpensEmptyAfterStoringTheOneLeft)
     EXPECT_TRUE(fileExists(book(u"  ShopAccountData"_s)));
     EXPECT_FALSE(fileExists(book(u"  GardenAccountData"_s)));
 
-    books.saveBooks();
+    books.shelf.saveBooks();
     EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n  Garden\n"));
 }
 
@@ -227,7 +227,7 @@ TEST_F(LedgerFlowsTest, NewLedgerWithANameThatCantBeUsedChangesNothing)
     books.LedgerList.SetListIndex(1);
     const Folder before = snapshot();
     for (const QString& name : {u""_s, u"shop"_s, u"Home"_s, u"x/y"_s}) {
-        EXPECT_FALSE(books.addLedger(name)) << name.toStdString();
+        EXPECT_FALSE(books.shelf.addLedger(name)) << name.toStdString();
     }
     EXPECT_EQ(platform.messages.size(), 4);
     EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s}));
@@ -240,8 +240,8 @@ TEST_F(LedgerFlowsTest, NothingIsReadOrWrittenWithoutABooksFolder)
     SummaryBooks books(QString{});
     EXPECT_EQ(books.LedgerList.ListCount(), 0);
     const Folder before = snapshot();
-    ASSERT_TRUE(books.addLedger(u"Loose"_s));
-    books.saveBooks();
+    ASSERT_TRUE(books.shelf.addLedger(u"Loose"_s));
+    books.shelf.saveBooks();
     books.calcAll();
     EXPECT_EQ(snapshot(), before);
 }

@@ -95,7 +95,7 @@ TEST_F(SaveFailuresTest, EveryFailingStepKeepsEveryKindOfFileAsItWas)
          [&] { books = std::make_unique<SummaryBooks>(home.books()); },
          [&] {
              books->LedgerList.AddRow(u"  Garden"_s);
-             books->saveBooks();
+             books->shelf.saveBooks();
          }},
         {"preferences", false, u"Quillmark couldn't save its preferences: "_s,
          [&] {

@@ -1,5 +1,6 @@
 #include "books/ui/newBookWindow.h"
 #include "engine/ui/AccountWindow.h"
+#include "ledger/TransactionOperations.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/SummaryWindowFixture.h"
 #include "mainwindow/Toolbar1.h"
@@ -275,7 +276,7 @@ TEST_F(CommandsTest, TheContextMenuMovesTheSelectedTransactionCutAtTheDash)
     EXPECT_EQ(window->accountsBox().Cell(1, 4).trimmed(), u"0.00") << "recalculated";
     EXPECT_TRUE(transFile().startsWith("@#@Sales@#@2026-01-02@#@January@#@"));
 
-    window->books().transBox_ContextualMenuAction(u"999-Car-Hire"_s);
+    TransactionOperations(window->books()).transBox_ContextualMenuAction(u"999-Car-Hire"_s);
     EXPECT_EQ(window->transBox().Cell(0, 0), u"999");
     EXPECT_EQ(window->transBox().Cell(0, 1), u"Car") << "cut at the dash";
 }

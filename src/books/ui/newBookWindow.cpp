@@ -40,11 +40,11 @@ bool newBookWindow::eventFilter(QObject* watched, QEvent* event)
 
 void newBookWindow::PushButton1_Action()
 {
-    if (!books_.addLedger(EditField1->text())) {
+    if (!books_.shelf.addLedger(EditField1->text())) {
         EditField1->setFocus();
         return;
     }
     Q_EMIT ledgerAdded();
-    books_.saveBooks();
+    books_.shelf.saveBooks();
     close();
 }

@@ -2,6 +2,7 @@
 
 #include "engine/AccountMaintenance.h"
 #include "engine/RowLayouts.h"
+#include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
 #include "platform/BlockingServices.h"
 #include "platform/ui/DialogLayout.h"
@@ -145,7 +146,7 @@ AccountFields AccountWindow::fields() const
 void AccountWindow::PushButton1_Action()
 {
     EditField4->setFocus(); // ends an edit under way
-    const QString problem = books_.saveAccount(fields(), nameChanged, editingOn ? editedRow_ : -1, oldName);
+    const QString problem = AccountOperations(books_).saveAccount(fields(), nameChanged, editingOn ? editedRow_ : -1, oldName);
     if (!problem.isEmpty()) {
         MsgBox(problem);
         EditField1->setFocus();

@@ -1,6 +1,7 @@
 #include "engine/ui/TransactionWindow.h"
 
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 #include "platform/ui/DialogLayout.h"
 #include "widgets/AutoButton.h"
 #include "widgets/CalendarControl.h"
@@ -147,6 +148,30 @@ void TransactionWindow::chooseAccount(int item)
     PopupMenu1->setCurrentIndex(item); // fires PopupMenu1_Change when the item is another
 }
 
+void TransactionWindow::addTransaction(QWidget* caller, int accountRow)
+{
+    if (accountRow > 0)
+        chooseAccount(accountRow);
+    whichWindow = caller;
+    show();
+}
+
+void TransactionWindow::openOverAccountList(QWidget* caller, const AccountList& list)
+{
+    whichWindow = caller;
+    accountList_ = &list;
+    setWindowModality(Qt::ApplicationModal);
+}
+
+void TransactionWindow::addToAccountList(QWidget* caller, const AccountList& list, int accountItem)
+{
+    openOverAccountList(caller, list);
+    if (accountItem > 0)
+        chooseAccount(accountItem);
+    PopupMenu1->setEnabled(false);
+    show();
+}
+
 void TransactionWindow::editTransaction(int row)
 {
     editingOn = true;
@@ -154,15 +179,16 @@ void TransactionWindow::editTransaction(int row)
     TransactionForm filled = form();
     fillFromTransaction(filled, books_.transBox, row, books_.accountsBox);
     showForm(filled);
-    books_.storeTransactions();
+    books_.store(LedgerFiles::Table::Transactions);
 }
 
-void TransactionWindow::editFromList(const Listbox& list, int line)
+void TransactionWindow::editFromList(QWidget* caller, const AccountList& list, int line)
 {
+    openOverAccountList(caller, list);
     editingOn = true;
     show();
     TransactionForm filled = form();
-    fillFromTransaction(filled, list, line, books_.accountsBox);
+    fillFromTransaction(filled, list.list, line, books_.accountsBox);
     showForm(filled);
 }
 
@@ -206,13 +232,13 @@ void TransactionWindow::Canvas1_Action()
 
 const AccountList* TransactionWindow::listToShowIn() const
 {
-    return whichWindow != this && whichWindow != parentWidget() ? accountList : nullptr;
+    return whichWindow != this && whichWindow != parentWidget() ? accountList_ : nullptr;
 }
 
 void TransactionWindow::editAddTransaction()
 {
     const AccountList* list = listToShowIn();
-    books_.editAddTransaction(form(), editingOn, list);
+    TransactionOperations(books_).editAddTransaction(form(), editingOn, list);
     if (list)
         Q_EMIT accountListChanged();
 }
@@ -220,7 +246,7 @@ void TransactionWindow::editAddTransaction()
 void TransactionWindow::doGST()
 {
     const AccountList* list = listToShowIn();
-    books_.doGST(form(), list);
+    TransactionOperations(books_).doGST(form(), list);
     if (list)
         Q_EMIT accountListChanged();
 }

@@ -5,7 +5,6 @@
 #include <QDialog>
 
 class AutoButton;
-class Listbox;
 class CalendarControl;
 class QComboBox;
 class QLabel;
@@ -25,12 +24,11 @@ public:
 
     bool editingOn = false;   // an existing row is changed
     int accountboxrow = 0;    // account row of the chosen account: the menu's index
-    // The window that asked for the dialog; the dialog itself until a caller
-    // says otherwise. When it is neither the dialog nor the main window, it is
-    // an account's transactions window, whose list shows the change too.
+    // The window that asked for the dialog: the dialog itself unless one of the
+    // opening calls below names its caller. When it is neither the dialog nor the
+    // main window, it is an account's transactions window, whose list shows the
+    // change too.
     QWidget* whichWindow = nullptr;
-    // That window's list and balance, given by it along with whichWindow.
-    const AccountList* accountList = nullptr;
 
     QLabel* StaticText1;          // "Account Name:"
     QComboBox* PopupMenu1;        // "Select account", then the accounts from row 1
@@ -56,12 +54,19 @@ public:
 
     // The fields as they stand.
     TransactionForm form() const;
+    // Shows the dialog to add a transaction for the main window, with the
+    // account of accountRow chosen when it is one (above 0).
+    void addTransaction(QWidget* caller, int accountRow);
+    // Shows the dialog to add a transaction from an account's transactions
+    // window: that account chosen for good (the menu disabled), and the window's
+    // list shows the new line.
+    void addToAccountList(QWidget* caller, const AccountList& list, int accountItem);
     // Shows the dialog on a row of transBox, to change it: the fields filled from
     // the row, which is stored as it stands.
     void editTransaction(int row);
     // Shows the dialog on a line of an account's transactions window, to change
     // the transaction it copies: the fields filled from the line.
-    void editFromList(const Listbox& list, int line);
+    void editFromList(QWidget* caller, const AccountList& list, int line);
     // Chooses an account of the menu, as the user would.
     void chooseAccount(int item);
 
@@ -80,7 +85,11 @@ Q_SIGNALS:
 
 private:
     void showForm(const TransactionForm& form);
+    // Over the account's window as well as the main window, which share a parent.
+    void openOverAccountList(QWidget* caller, const AccountList& list);
     const AccountList* listToShowIn() const;
 
     SummaryBooks& books_;
+    // The list and balance of the account's window that asked for the dialog.
+    const AccountList* accountList_ = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "engine/RowLayouts.h"
 #include "engine/Transfers.h"
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 #include "platform/BlockingServices.h"
 #include "platform/Clock.h"
 #include "platform/Numbers.h"
@@ -60,12 +61,6 @@ transferWindow::transferWindow(SummaryBooks& books, QWidget* parent)
     Timer1->start();
 }
 
-transferWindow::~transferWindow()
-{
-    // The grids go before the tables they show, which are members of this window.
-    delete ListBox1;
-    delete ListBox2;
-}
 
 void transferWindow::Timer1_Action()
 {
@@ -99,7 +94,7 @@ void transferWindow::PushButton1_Action()
 {
     const double amount = Val(EditField1->text());
     if (amount > 0.0) {
-        const QString problem = books_.doTransferFromTo(ListBox1Table.Cell(ListBox1Table.ListIndex(), 0),
+        const QString problem = TransactionOperations(books_).doTransferFromTo(ListBox1Table.Cell(ListBox1Table.ListIndex(), 0),
                                                         ListBox2Table.Cell(ListBox2Table.ListIndex(), 0), amount,
                                                         Clock::today());
         if (!problem.isEmpty()) {

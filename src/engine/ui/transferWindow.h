@@ -20,7 +20,6 @@ class transferWindow : public QDialog {
 
 public:
     transferWindow(SummaryBooks& books, QWidget* parent);
-    ~transferWindow() override;
 
     QWidget* myParent = nullptr; // the main window, which asked for the transfer
     double sourceAmount = 0;     // balance of the source when it was selected

@@ -159,11 +159,6 @@ CustomImportWindow::CustomImportWindow(const Listbox& accounts, const Listbox& t
     EditField31->setFocus();
 }
 
-CustomImportWindow::~CustomImportWindow()
-{
-    // The grid goes before the table it shows, a member of this window.
-    delete Preview;
-}
 
 bool CustomImportWindow::openFile(const QString& path)
 {

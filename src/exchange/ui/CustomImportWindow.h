@@ -27,7 +27,6 @@ public:
     using Commit = std::function<int(const std::vector<ImportedRow>& rows, bool skipDuplicates)>;
 
     CustomImportWindow(const Listbox& accounts, const Listbox& transactions, Commit commit, QWidget* parent);
-    ~CustomImportWindow() override;
 
     // Reads the file chosen; false (and a message) when it can't be read.
     bool openFile(const QString& path);

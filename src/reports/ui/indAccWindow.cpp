@@ -5,6 +5,7 @@
 #include "engine/RowLayouts.h"
 #include "engine/ui/TransactionWindow.h"
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 #include "platform/BlockingServices.h"
 #include "platform/ui/DialogLayout.h"
 #include "reports/LedgerReport.h"
@@ -86,11 +87,6 @@ indAccWindow::indAccWindow(SummaryBooks& books, std::function<::TransactionWindo
         button->Event_Open();
 }
 
-indAccWindow::~indAccWindow()
-{
-    // The grid goes before the table it shows, a member of this window.
-    delete ListBox1;
-}
 
 void indAccWindow::placeControls()
 {
@@ -171,10 +167,6 @@ void indAccWindow::PushButton2_Action()
 ::TransactionWindow* indAccWindow::transactionDialog()
 {
     ::TransactionWindow* dialog = transactionWindow_();
-    dialog->whichWindow = this;
-    dialog->accountList = &accountList_;
-    // Over this window as well as the main window, which share a parent.
-    dialog->setWindowModality(Qt::ApplicationModal);
     connect(dialog, &::TransactionWindow::accountListChanged, this, &indAccWindow::updateBalance,
             Qt::UniqueConnection);
     return dialog;
@@ -182,11 +174,7 @@ void indAccWindow::PushButton2_Action()
 
 void indAccWindow::Canvas1_Action()
 {
-    ::TransactionWindow* dialog = transactionDialog();
-    if (const int item = accountMenuItem(books_.accountsBox, StaticText3->text()); item > 0)
-        dialog->chooseAccount(item);
-    dialog->PopupMenu1->setEnabled(false);
-    dialog->show();
+    transactionDialog()->addToAccountList(this, accountList_, accountMenuItem(books_.accountsBox, StaticText3->text()));
 }
 
 void indAccWindow::Canvas3_Action()
@@ -194,12 +182,12 @@ void indAccWindow::Canvas3_Action()
     const int line = ListBox1Table.ListIndex();
     if (line == -1)
         return MsgBox(u"No transaction selected"_s);
-    transactionDialog()->editFromList(ListBox1Table, line);
+    transactionDialog()->editFromList(this, accountList_, line);
 }
 
 void indAccWindow::Canvas2_Action()
 {
-    if (books_.deleteAccountListLines(ListBox1Table))
+    if (TransactionOperations(books_).deleteAccountListLines(ListBox1Table))
         updateBalance();
 }
 

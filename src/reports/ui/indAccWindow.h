@@ -24,7 +24,6 @@ class indAccWindow : public QDialog {
 
 public:
     indAccWindow(SummaryBooks& books, std::function<::TransactionWindow*()> transactionWindow, QWidget* parent);
-    ~indAccWindow() override;
 
     QString accNum;            // the account's name
     bool daterangeOn = false;  // nothing reads it

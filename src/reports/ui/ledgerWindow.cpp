@@ -106,11 +106,6 @@ ledgerWindow::ledgerWindow(const Listbox& accounts, const Listbox& transactions,
     loadLedger();
 }
 
-ledgerWindow::~ledgerWindow()
-{
-    // The grids go before the tables they show, which are members of this window.
-    delete ledgerbox;
-}
 
 void ledgerWindow::loadLedger()
 {

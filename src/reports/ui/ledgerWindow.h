@@ -23,7 +23,6 @@ class ledgerWindow : public QDialog {
 
 public:
     ledgerWindow(const Listbox& accounts, const Listbox& transactions, QWidget* parent);
-    ~ledgerWindow() override;
 
     int theYear = 0; // the working value of the arrows
 

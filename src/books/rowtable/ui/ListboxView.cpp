@@ -44,6 +44,10 @@ ListboxView::ListboxView(Listbox& table, QWidget* parent)
     connect(&table, &Listbox::resetDone, this, scheduleSync);
     connect(this, &QAbstractItemView::doubleClicked, this, [this] { table_.userDoubleClicked(); });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &ListboxView::headerPressed);
+    // A grid never outlives its table: a window's tables are its members and go
+    // before its widgets, and the grid goes with them, so no window has to
+    // order the two.
+    connect(&table, &QObject::destroyed, this, [this] { delete this; });
     applyColumnSettings();
 }
 
