@@ -1,6 +1,6 @@
 #pragma once
 
-#include "books/ui/smartWindow.h"
+#include "widgets/smartWindow.h"
 #include "ledger/SummaryBooks.h"
 #include "mainwindow/SummaryDialogs.h"
 

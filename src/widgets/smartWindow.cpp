@@ -1,4 +1,4 @@
-#include "books/ui/smartWindow.h"
+#include "widgets/smartWindow.h"
 
 #include "books/WindowMemory.h"
 

@@ -1,0 +1,6 @@
+#include "update/BuildVersion.h"
+
+QString buildVersion()
+{
+    return QStringLiteral(QUILLMARK_VERSION);
+}
