@@ -6,6 +6,7 @@
 #include "support/PdfReading.h"
 
 #include <QDirIterator>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 
@@ -218,16 +219,27 @@ TEST_F(CommandLineTest, AccountVerbsMakeTheAccountDialogsCalls)
     EXPECT_FALSE(stored(u"Account"_s).contains("Rent"));
 }
 
-TEST_F(CommandLineTest, AFileThatCantBeSavedIsToldOnStderrWithStatusOne)
+TEST_F(CommandLineTest, FileProblemsAreToldOnStderrALineEachWithStatusOne)
 {
     // The system itself refusing: a limit on the size of the files a process
     // writes, below the size of the transactions (no root needed for that).
     writeBytes(book(u"Trans"_s), stored(u"Trans"_s).repeated(50));
-    const CliRun run = runCli(data() << u"recalc"_s << u"Shop"_s, u"C.UTF-8"_s,
-                              u"trap '' XFSZ; ulimit -f 2; exec \"$0\" \"$@\""_s);
+    CliRun run = runCli(data() << u"recalc"_s << u"Shop"_s, u"C.UTF-8"_s, u"trap '' XFSZ; ulimit -f 2; exec \"$0\" \"$@\""_s);
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err, u"quillmark-cli: Quillmark couldn't save the ledger \"Shop\": File too large. It stays as it was "
                        "before this change.\n");
+    EXPECT_EQ(QDir(home.books()).entryList(QDir::Files).size(), 2) << "nothing left beside the files";
+
+    // Two problems of one operation.
+    QFile::remove(book(u"Account"_s));
+    QFile::remove(book(u"Trans"_s));
+    QDir(home.books()).mkdir(u"  ShopAccountData"_s);
+    QDir(home.books()).mkdir(u"  ShopTransData"_s);
+    run = runCli(data() << u"balances"_s << u"Shop"_s);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, u"quillmark-cli: Quillmark couldn't open the ledger \"Shop\": \"%1\" is a folder, not a plain file.\n"
+                       "quillmark-cli: Quillmark couldn't open the ledger \"Shop\": \"%2\" is a folder, not a plain file.\n"_s
+                           .arg(book(u"Account"_s), book(u"Trans"_s)));
 }
 
 TEST_F(CommandLineTest, TransactionVerbsMakeTheDialogsCalls)
@@ -266,6 +278,7 @@ TEST_F(CommandLineTest, FindReconcileDeleteAndTransferMakeTheirCalls)
 
     done(u"delete Shop 2 1"_s);
     EXPECT_EQ(stored(u"Trans"_s), QByteArray());
+    EXPECT_TRUE(stored(u"Account"_s).contains("@#@Sales@#@Revenue@#@5,5@#@0@#@5.5@#@")) << "recalculated";
     // The accounts as the ledger names them.
     done(u"transfer Shop --from sales --to rent --amount 7 --date 2014-03-15"_s);
     EXPECT_EQ(stored(u"Trans"_s), "@#@Sales@#@2014-03-15@#@Transfer to Rent@#@@#@-7.00@#@@#@-7.00@#@3477686400@#@@#@@#@Never@#@\n"
@@ -303,7 +316,10 @@ TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheFilterAskedOrTheirPdf)
 
     const QString pdf = home.path() + u"/report.pdf"_s;
     EXPECT_EQ(done(u"report Shop --pdf "_s + pdf), u"");
-    EXPECT_EQ(named(wordsOf(pdf), u"March"_s).size(), 1);
+    const QList<Word> words = wordsOf(pdf);
+    EXPECT_EQ(named(words, u"March"_s).size(), 1);
+    EXPECT_LT(named(words, u"Date"_s).value(0).box.right(), named(words, u"Description"_s).value(0).box.left())
+        << "the columns laid out side by side, as in the window";
 }
 
 TEST_F(CommandLineTest, AccountListsTheTransactionsWindowAndPrintPrintsTheSummary)
