@@ -23,7 +23,7 @@ QDate dayOf(const Invocation& call, const QString& option)
 
 } // namespace
 
-bool accountOptionsUsable(const QCommandLineParser& parser)
+bool accountOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
     for (const QString& option : {u"from"_s, u"to"_s}) {
         QDate day;
@@ -33,20 +33,17 @@ bool accountOptionsUsable(const QCommandLineParser& parser)
     return true;
 }
 
-int accountListVerb(const Invocation& call)
+int accountListVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    const int row = selectAccount(call, ledger.books);
+    const int row = selectAccount(call, books);
     if (row < 0)
         return 1;
     if (row == 0)
         return refused(call, u"the Base Account has no transactions window"_s);
     Listbox list(u"ListBox1"_s, AccountListCol::Count, Listbox::SelectionType::Multiple);
     setUpAccountList(list);
-    loadAccount(list, ledger.books.transBox, ledger.books.accountsBox.Cell(row, AccountCol::Name));
-    QString balance = selectedAccountBalance(ledger.books.accountsBox);
+    loadAccount(list, books.transBox, books.accountsBox.Cell(row, AccountCol::Name));
+    QString balance = selectedAccountBalance(books.accountsBox);
     if (call.isSet(u"from"_s) || call.isSet(u"to"_s)) {
         // Both controls hold the time of day they were made at.
         const QTime made = Clock::now().time();
@@ -67,19 +64,16 @@ int accountListVerb(const Invocation& call)
     return 0;
 }
 
-bool printOptionsUsable(const QCommandLineParser& parser)
+bool printOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
     const QString what = parser.value(u"what"_s);
     return (what == u"accounts" || what == u"transactions" || what == u"both") && parser.isSet(u"pdf"_s);
 }
 
-int printVerb(const Invocation& call)
+int printVerb(const Invocation& call, SummaryBooks& books)
 {
-    const OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     const QString what = call.value(u"what"_s);
     PdfPrinterServices printer;
-    printAll(what == u"both" ? u"all"_s : what, u"Quillmark"_s, ledger.books.accountsBox, ledger.books.transBox);
+    printAll(what == u"both" ? u"all"_s : what, u"Quillmark"_s, books.accountsBox, books.transBox);
     return printer.save(call);
 }

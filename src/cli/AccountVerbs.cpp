@@ -63,44 +63,37 @@ int newLedger(const Invocation& call)
     return 0;
 }
 
-int addAccountVerb(const Invocation& call)
+int addAccountVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     const AccountFields fields{call.words[2], call.isSet(u"revenue"_s) ? u"Revenue"_s : u"Expense"_s,
                                typedOr(call, u"opening"_s, {}), typedOr(call, u"notes"_s, {})};
-    if (const QString problem = AccountOperations(ledger.books).saveAccount(fields, true, -1, {}); !problem.isEmpty())
+    if (const QString problem = AccountOperations(books).saveAccount(fields, true, -1, {}); !problem.isEmpty())
         return refused(call, problem);
     return 0;
 }
 
-int editAccountVerb(const Invocation& call)
+int editAccountVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    const int row = selectAccount(call, ledger.books);
+    const int row = selectAccount(call, books);
     if (row < 0)
         return 1;
-    AccountFields fields = accountFieldsOf(ledger.books.accountsBox, row);
+    AccountFields fields = accountFieldsOf(books.accountsBox, row);
     const QString oldName = fields.name;
     fields.name = typedOr(call, u"rename"_s, fields.name);
     fields.opening = typedOr(call, u"opening"_s, fields.opening);
     fields.notes = typedOr(call, u"notes"_s, fields.notes);
     // Typing a name, even the same one, makes the dialog check it.
     const bool nameTyped = call.isSet(u"rename"_s);
-    if (const QString problem = AccountOperations(ledger.books).saveAccount(fields, nameTyped, row, oldName); !problem.isEmpty())
+    if (const QString problem = AccountOperations(books).saveAccount(fields, nameTyped, row, oldName); !problem.isEmpty())
         return refused(call, problem);
     return 0;
 }
 
-int deleteAccountVerb(const Invocation& call)
+int deleteAccountVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open || selectAccount(call, ledger.books) < 0)
+    if (selectAccount(call, books) < 0)
         return 1;
     // A refusal is a message, told with the others.
-    AccountOperations(ledger.books).deleteSelectedAccount();
+    AccountOperations(books).deleteSelectedAccount();
     return 0;
 }

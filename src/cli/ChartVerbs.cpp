@@ -34,19 +34,16 @@ std::optional<QSize> canvasSize(const QCommandLineParser& parser)
 
 } // namespace
 
-bool chartOptionsUsable(const QCommandLineParser& parser)
+bool chartOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
     const QString kind = parser.value(u"kind"_s);
     return (kind == u"bar" || kind == u"pie") && parser.isSet(u"out"_s) && canvasSize(parser).has_value();
 }
 
-int chartVerb(const Invocation& call)
+int chartVerb(const Invocation& call, SummaryBooks& books)
 {
-    const OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     const QSize canvas = *canvasSize(call.parser);
-    const Listbox& accounts = ledger.books.accountsBox;
+    const Listbox& accounts = books.accountsBox;
     const AccountChart chart = call.value(u"kind"_s) == u"bar" ? transactionsChart(accounts, canvas)
                                                                : openingsChart(accounts, canvas);
 

@@ -85,7 +85,7 @@ std::optional<ImportMapping> mappingOf(const QCommandLineParser& parser)
 
 } // namespace
 
-bool importOptionsUsable(const QCommandLineParser& parser)
+bool importOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
     if (parser.isSet(u"duplicates"_s) && parser.value(u"duplicates"_s) != u"keep"
         && parser.value(u"duplicates"_s) != u"skip")
@@ -93,43 +93,37 @@ bool importOptionsUsable(const QCommandLineParser& parser)
     return parser.isSet(u"map"_s) && mappingOf(parser).has_value();
 }
 
-int exportVerb(const Invocation& call)
+int exportVerb(const Invocation& call, SummaryBooks& books)
 {
-    const OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    if (const QString problem = exportData(ledger.books.transBox, call.words[2]); !problem.isEmpty())
+    if (const QString problem = exportData(books.transBox, call.words[2]); !problem.isEmpty())
         return refused(call, problem);
     return 0;
 }
 
-int importVerb(const Invocation& call)
+int importVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     ImportMapping mapping = *mappingOf(call.parser);
     if (!mapping.fixedAccount.isEmpty()) {
         // An account the window's menu offers, as the ledger spells it.
-        const int row = accountMenuItem(ledger.books.accountsBox, mapping.fixedAccount);
+        const int row = accountMenuItem(books.accountsBox, mapping.fixedAccount);
         if (row == 0)
             return refused(call, u"there is no account named \"%1\" in the ledger \"%2\""_s.arg(
-                                     mapping.fixedAccount, ledger.books.theLedger));
-        mapping.fixedAccount = ledger.books.accountsBox.Cell(row, AccountCol::Name);
+                                     mapping.fixedAccount, books.theLedger));
+        mapping.fixedAccount = books.accountsBox.Cell(row, AccountCol::Name);
     }
     const FileContent file = readPlainFile(call.words[2]);
     if (!file.problem.isEmpty())
         return refused(call, u"couldn't read \"%1\": %2"_s.arg(call.words[2], file.problem));
     if (!file.bytes)
         return refused(call, u"there is no file \"%1\""_s.arg(call.words[2]));
-    const ImportPlan plan = planImport(*file.bytes, mapping, ledger.books.transBox);
+    const ImportPlan plan = planImport(*file.bytes, mapping, books.transBox);
     if (!plan.refusal.isEmpty())
         return refused(call, plan.refusal);
     if (plan.duplicates > 0 && !call.isSet(u"duplicates"_s))
         return refused(call, u"%1 of the transactions are in the ledger already; give --duplicates keep or skip"_s.arg(
                                  plan.duplicates));
     const bool skip = call.value(u"duplicates"_s) == u"skip";
-    const int imported = TransactionOperations(ledger.books).appendTransactions(transactionRows(plan.rows, skip));
+    const int imported = TransactionOperations(books).appendTransactions(transactionRows(plan.rows, skip));
     call.out << imported << " transactions imported";
     if (skip && plan.duplicates > 0)
         call.out << ", " << plan.duplicates << " already in the ledger skipped";

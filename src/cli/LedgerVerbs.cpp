@@ -12,25 +12,19 @@ int listLedgers(const Invocation& call)
     return 0;
 }
 
-int recalcLedger(const Invocation& call)
+int recalcLedger(const Invocation&, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    ledger.books.calcAll(); // a fresh window's reconcile box is off: every transaction counts
+    books.calcAll(); // a fresh window's reconcile box is off: every transaction counts
     return 0;
 }
 
-int printBalances(const Invocation& call)
+int printBalances(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     if (call.isSet(QStringLiteral("reconciled"))) {
-        ledger.books.reconcilecheckbox_Action(true);
-        ledger.books.calcAll();
+        books.reconcilecheckbox_Action(true);
+        books.calcAll();
     }
-    const Listbox& accounts = ledger.books.accountsBox;
+    const Listbox& accounts = books.accountsBox;
     for (int row = 0; row < accounts.ListCount(); ++row) {
         call.out << accounts.CellView(row, AccountCol::Name) << '\t' << accounts.CellView(row, AccountCol::Type) << '\t'
                  << accounts.CellView(row, AccountCol::Balance) << '\n';
@@ -38,13 +32,10 @@ int printBalances(const Invocation& call)
     return 0;
 }
 
-int printTransactions(const Invocation& call)
+int printTransactions(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    for (int row = 0; row < ledger.books.transBox.ListCount(); ++row)
-        printTransaction(call, ledger.books.transBox, row);
+    for (int row = 0; row < books.transBox.ListCount(); ++row)
+        printTransaction(call, books.transBox, row);
     return 0;
 }
 
@@ -56,11 +47,8 @@ void printTransaction(const Invocation& call, const Listbox& transactions, int r
     call.out << '\n';
 }
 
-int storeRepeats(const Invocation& call)
+int storeRepeats(const Invocation&, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    ledger.books.storeBoth(); // as the window stores its ledger on closing
+    books.storeBoth(); // as the window stores its ledger on closing
     return 0;
 }

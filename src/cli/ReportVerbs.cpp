@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-bool reportOptionsUsable(const QCommandLineParser& parser)
+bool reportOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
     const bool year = parser.isSet(u"year"_s);
     const bool showYear = parser.isSet(u"show-year"_s);
@@ -22,13 +22,10 @@ bool reportOptionsUsable(const QCommandLineParser& parser)
     return number && month >= 0 && month <= 12 && !year && !showYear;
 }
 
-int reportVerb(const Invocation& call)
+int reportVerb(const Invocation& call, SummaryBooks& books)
 {
-    const OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    const Listbox& accounts = ledger.books.accountsBox;
-    const Listbox& transactions = ledger.books.transBox;
+    const Listbox& accounts = books.accountsBox;
+    const Listbox& transactions = books.transBox;
     Listbox report(u"ledgerbox"_s, ReportCol::Count);
     setUpLedgerReport(report);
     // The window opens on every month, then takes the filter asked for.

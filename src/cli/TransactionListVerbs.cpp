@@ -23,42 +23,44 @@ std::optional<std::vector<int>> namedRows(const Invocation& call, const SummaryB
 
 } // namespace
 
-int findVerb(const Invocation& call)
+bool rowsUsable(const QCommandLineParser&, const QStringList& words)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    TransactionOperations(ledger.books).findTrans(call.words[2]);
-    const Listbox& transactions = ledger.books.transBox;
+    for (qsizetype word = 2; word < words.size(); ++word) {
+        bool number = false;
+        words[word].toInt(&number);
+        if (!number)
+            return false;
+    }
+    return true;
+}
+
+int findVerb(const Invocation& call, SummaryBooks& books)
+{
+    TransactionOperations(books).findTrans(call.words[2]);
+    const Listbox& transactions = books.transBox;
     for (int row = 0; row < transactions.ListCount(); ++row)
         if (transactions.Selected(row))
             printTransaction(call, transactions, row);
     return 0;
 }
 
-int deleteTransactionsVerb(const Invocation& call)
+int deleteTransactionsVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    const auto rows = namedRows(call, ledger.books);
+    const auto rows = namedRows(call, books);
     if (!rows)
         return 1;
-    ledger.books.transBox.setSelectedRows(*rows);
-    TransactionOperations(ledger.books).deleteSelectedTransactions(); // confirmed by the command itself
+    books.transBox.setSelectedRows(*rows);
+    TransactionOperations(books).deleteSelectedTransactions(); // confirmed by the command itself
     return 0;
 }
 
-int reconcileVerb(const Invocation& call)
+int reconcileVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    const auto rows = namedRows(call, ledger.books);
+    const auto rows = namedRows(call, books);
     if (!rows)
         return 1;
     const bool checked = !call.isSet(QStringLiteral("off"));
-    Listbox& transactions = ledger.books.transBox;
+    Listbox& transactions = books.transBox;
     for (int row : *rows) {
         // A click toggles the box: only a box in the other state gets one.
         if (transactions.CellCheck(row, TransCol::Account) != checked)

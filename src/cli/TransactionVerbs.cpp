@@ -7,6 +7,8 @@
 #include "platform/Clock.h"
 #include "platform/Numbers.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -68,9 +70,8 @@ int openForEditing(const Invocation& call, SummaryBooks& books, TransactionForm&
     fillFromTransaction(form, books.transBox, row, books.accountsBox);
     if (!typeOptions(call, books, form))
         return -1;
-    if (gst ? !gstEnabled(form) : !okEnabled(form)) {
-        refused(call, gst ? u"the GST button needs an amount, an adjustment and a withdrawal"_s
-                          : u"OK can't be pressed: it needs an account and an amount"_s);
+    if (const QString problem = gst ? gstRefusal(form) : okRefusal(form); !problem.isEmpty()) {
+        refused(call, problem);
         return -1;
     }
     books.store(LedgerFiles::Table::Transactions); // opening the row for editing stores transBox
@@ -79,55 +80,63 @@ int openForEditing(const Invocation& call, SummaryBooks& books, TransactionForm&
 
 } // namespace
 
-int addTransactionVerb(const Invocation& call)
+bool transactionOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
+    if (parser.isSet(u"deposit"_s) && parser.isSet(u"withdrawal"_s))
+        return false;
+    if (!parser.isSet(u"repeat"_s))
+        return true;
+    const QString word = parser.value(u"repeat"_s);
+    return std::any_of(kRepeatWords.begin(), kRepeatWords.end(),
+                       [&](const QString& item) { return item.compare(word, Qt::CaseInsensitive) == 0; });
+}
+
+bool editOptionsUsable(const QCommandLineParser& parser, const QStringList& words)
+{
+    return rowsUsable(parser, words) && transactionOptionsUsable(parser, words);
+}
+
+int addTransactionVerb(const Invocation& call, SummaryBooks& books)
+{
     TransactionForm form = newForm();
-    if (!typeOptions(call, ledger.books, form))
+    if (!typeOptions(call, books, form))
         return 1;
     const bool gst = call.isSet(u"gst"_s);
-    if (gst ? !gstEnabled(form) : !okEnabled(form))
-        return refused(call, gst ? u"the GST button needs an amount, an adjustment and a withdrawal"_s
-                                 : u"OK can't be pressed: it needs an account and an amount"_s);
-    TransactionOperations(ledger.books).editAddTransaction(form, false);
+    if (const QString problem = gst ? gstRefusal(form) : okRefusal(form); !problem.isEmpty())
+        return refused(call, problem);
+    TransactionOperations(books).editAddTransaction(form, false);
     if (gst)
-        TransactionOperations(ledger.books).doGST(form);
+        TransactionOperations(books).doGST(form);
     return 0;
 }
 
-int editTransactionVerb(const Invocation& call)
+int editTransactionVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     TransactionForm form = newForm();
-    if (openForEditing(call, ledger.books, form, false) < 0)
+    if (openForEditing(call, books, form, false) < 0)
         return 1;
-    TransactionOperations(ledger.books).editAddTransaction(form, true);
+    TransactionOperations(books).editAddTransaction(form, true);
     return 0;
 }
 
-int gstVerb(const Invocation& call)
+int gstVerb(const Invocation& call, SummaryBooks& books)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
     TransactionForm form = newForm();
-    if (openForEditing(call, ledger.books, form, true) < 0)
+    if (openForEditing(call, books, form, true) < 0)
         return 1;
-    TransactionOperations(ledger.books).editAddTransaction(form, true);
-    TransactionOperations(ledger.books).doGST(form);
+    TransactionOperations(books).editAddTransaction(form, true);
+    TransactionOperations(books).doGST(form);
     return 0;
 }
 
-int transferVerb(const Invocation& call)
+bool transferOptionsUsable(const QCommandLineParser& parser, const QStringList&)
 {
-    OpenLedger ledger(call);
-    if (!ledger.open)
-        return 1;
-    const Listbox& accounts = ledger.books.accountsBox;
+    return parser.isSet(u"from"_s) && parser.isSet(u"to"_s) && parser.isSet(u"amount"_s);
+}
+
+int transferVerb(const Invocation& call, SummaryBooks& books)
+{
+    const Listbox& accounts = books.accountsBox;
     QStringList names;
     for (const QString& option : {u"from"_s, u"to"_s}) {
         const QString wanted = call.value(option);
@@ -137,7 +146,7 @@ int transferVerb(const Invocation& call)
         const int item = accountMenuItem(accounts, wanted);
         if (item == 0)
             return refused(call, u"there is no account named \"%1\" in the ledger \"%2\""_s.arg(wanted,
-                                                                                                  ledger.books.theLedger));
+                                                                                                  books.theLedger));
         names << accounts.Cell(item, AccountCol::Name);
     }
     const double amount = Val(call.value(u"amount"_s));
@@ -145,8 +154,8 @@ int transferVerb(const Invocation& call)
         return refused(call, u"the amount to transfer must be above 0"_s);
     const QDate date = call.isSet(u"date"_s) ? QDate::fromString(call.value(u"date"_s), u"yyyy-MM-dd"_s)
                                              : Clock::today();
-    if (const QString problem = TransactionOperations(ledger.books).doTransferFromTo(names[0], names[1], amount, date); !problem.isEmpty())
+    if (const QString problem = TransactionOperations(books).doTransferFromTo(names[0], names[1], amount, date); !problem.isEmpty())
         return refused(call, problem);
-    ledger.books.CheckRepeats(); // the window's closing
+    books.CheckRepeats(); // the window's closing
     return 0;
 }

@@ -8,9 +8,10 @@
 #include <QStringList>
 #include <QTextStream>
 
-// The verbs of quillmark-cli, each the same calls of the books that a window
-// makes. A verb returns the exit status: 0 done, 1 refused (one line on
-// stderr, nothing written).
+// The verbs of quillmark-cli and the checks of their words and options, each
+// verb the same calls of the books that a window makes. A verb returns the
+// exit status: 0 done, 1 refused (one line on stderr, nothing written). Each
+// has its entry in VerbTable.cpp.
 
 // One run of the command line: the verb's words (the verb first), its options,
 // the data folder, and where it prints.
@@ -28,16 +29,6 @@ struct Invocation {
 // Prints why an input is refused, and gives the status for it.
 int refused(const Invocation& call, const QString& problem);
 
-// The books of the data folder with the ledger named by the verb's first word
-// open, as a click on its row opens it (its repeat pass included). When there
-// is no such ledger, `open` is false and the refusal is printed.
-class OpenLedger {
-public:
-    explicit OpenLedger(const Invocation& call);
-    SummaryBooks books;
-    bool open = false;
-};
-
 // The account named by the verb's second word (ignoring case, the first row of
 // that name), selected as a click selects it; -1 (refusal printed) when the
 // ledger has none of that name.
@@ -47,44 +38,57 @@ int selectAccount(const Invocation& call, SummaryBooks& books);
 // table has none such. ROW is a number: that was checked with the options.
 int transactionRow(const Invocation& call, const SummaryBooks& books, const QString& row);
 
+// The verbs that open no ledger.
 int listLedgers(const Invocation& call);
-int recalcLedger(const Invocation& call);
-int printBalances(const Invocation& call);
-int storeRepeats(const Invocation& call);
-int printTransactions(const Invocation& call);
+int newLedger(const Invocation& call);
+
+// The verbs on a ledger: the command line has opened the ledger their first
+// word names, as a click on its row opens it (its repeat pass included), and
+// hands them its books.
+int recalcLedger(const Invocation& call, SummaryBooks& books);
+int printBalances(const Invocation& call, SummaryBooks& books);
+int storeRepeats(const Invocation& call, SummaryBooks& books);
+int printTransactions(const Invocation& call, SummaryBooks& books);
 // A transaction as transactions prints it: ROW, then its cells after the first.
 void printTransaction(const Invocation& call, const Listbox& transactions, int row);
 
-int newLedger(const Invocation& call);
-int addAccountVerb(const Invocation& call);
-int editAccountVerb(const Invocation& call);
-int deleteAccountVerb(const Invocation& call);
+int addAccountVerb(const Invocation& call, SummaryBooks& books);
+int editAccountVerb(const Invocation& call, SummaryBooks& books);
+int deleteAccountVerb(const Invocation& call, SummaryBooks& books);
 
-int addTransactionVerb(const Invocation& call);
-int editTransactionVerb(const Invocation& call);
-int gstVerb(const Invocation& call);
+// Not both --deposit and --withdrawal, and a --repeat word of the menu.
+bool transactionOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+// Those of the transaction options, and a ROW that is a number.
+bool editOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int addTransactionVerb(const Invocation& call, SummaryBooks& books);
+int editTransactionVerb(const Invocation& call, SummaryBooks& books);
+int gstVerb(const Invocation& call, SummaryBooks& books);
 
-int findVerb(const Invocation& call);
-int deleteTransactionsVerb(const Invocation& call);
-int reconcileVerb(const Invocation& call);
-int transferVerb(const Invocation& call);
+// Every ROW after the ledger's name is a whole number.
+bool rowsUsable(const QCommandLineParser& parser, const QStringList& words);
+int findVerb(const Invocation& call, SummaryBooks& books);
+int deleteTransactionsVerb(const Invocation& call, SummaryBooks& books);
+int reconcileVerb(const Invocation& call, SummaryBooks& books);
+// A transfer names both its accounts and its amount.
+bool transferOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int transferVerb(const Invocation& call, SummaryBooks& books);
 
 // --kind bar|pie, --out and a --size that is one.
-bool chartOptionsUsable(const QCommandLineParser& parser);
-int chartVerb(const Invocation& call);
+bool chartOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int chartVerb(const Invocation& call, SummaryBooks& books);
 
 // At most one of --month M (0 to 12), --year Y and --show-year.
-bool reportOptionsUsable(const QCommandLineParser& parser);
-int reportVerb(const Invocation& call);
+bool reportOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int reportVerb(const Invocation& call, SummaryBooks& books);
 
 // --from and --to, when given, are dates ParseDate reads.
-bool accountOptionsUsable(const QCommandLineParser& parser);
-int accountListVerb(const Invocation& call);
+bool accountOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int accountListVerb(const Invocation& call, SummaryBooks& books);
 // --what accounts|transactions|both and --pdf.
-bool printOptionsUsable(const QCommandLineParser& parser);
-int printVerb(const Invocation& call);
+bool printOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int printVerb(const Invocation& call, SummaryBooks& books);
 
-int exportVerb(const Invocation& call);
+int exportVerb(const Invocation& call, SummaryBooks& books);
 // --map and the other options of import read as they should.
-bool importOptionsUsable(const QCommandLineParser& parser);
-int importVerb(const Invocation& call);
+bool importOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
+int importVerb(const Invocation& call, SummaryBooks& books);

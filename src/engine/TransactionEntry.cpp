@@ -65,6 +65,16 @@ bool gstEnabled(const TransactionForm& form)
     return !form.amount.isEmpty() && !form.adjustment.isEmpty() && !form.deposit;
 }
 
+QString okRefusal(const TransactionForm& form)
+{
+    return okEnabled(form) ? QString() : u"OK can't be pressed: it needs an account and an amount"_s;
+}
+
+QString gstRefusal(const TransactionForm& form)
+{
+    return gstEnabled(form) ? QString() : u"the GST button needs an amount, an adjustment and a withdrawal"_s;
+}
+
 void fillFromTransaction(TransactionForm& form, const Listbox& transactions, int row, const Listbox& accounts)
 {
     if (const int item = accountMenuItem(accounts, transactions.CellView(row, TransCol::Account)); item > 0)

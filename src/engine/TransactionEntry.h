@@ -48,6 +48,10 @@ bool okEnabled(const TransactionForm& form);
 // The GST button acts on an amount and an adjustment of a withdrawal; it needs
 // no account.
 bool gstEnabled(const TransactionForm& form);
+// Why OK or the GST button can't be pressed on the form, as a command without
+// the dialog tells it; "" when it can.
+QString okRefusal(const TransactionForm& form);
+QString gstRefusal(const TransactionForm& form);
 
 // The dialog opened on a row to edit it: the account named in the row (the
 // buttons by its type, not by the row's sign), its total without a sign as the
