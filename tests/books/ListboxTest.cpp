@@ -41,7 +41,6 @@ TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
     EXPECT_EQ(table.Cell(0, 5), u"");
     EXPECT_EQ(table.Cell(-1, 0), u"");
     EXPECT_EQ(table.ListCount(), 1);
-    EXPECT_EQ(table.LastIndex(), 0);
 }
 
 TEST(Listbox, ChangeFiresInsideTheCallThatChangedTheSelection)

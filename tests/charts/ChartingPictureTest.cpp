@@ -2,6 +2,7 @@
 // 553 by 432, gives an inner picture of 543 by 398 with a plot 372 pixels high:
 // grid lines from row 10 (the top) to row 382 (the bottom).
 #include "charts/chartingPicture.h"
+#include "platform/Numbers.h"
 
 #include <QElapsedTimer>
 
@@ -17,24 +18,21 @@ constexpr int kPlotHeight = 372;
 constexpr int kTop = 10;
 constexpr int kBottom = 382;
 
+const QColor kBlack(Qt::black);
 const QColor kNavy(0, 0, 128);
 const QColor kRed(200, 0, 0);
 const QColor kGreen(0, 150, 0);
 
-// A chart of the window's size with these values, each with its colour and tag.
-std::unique_ptr<chartingPicture> chartOf(const QList<double>& values, int type, QSize size = {553, 432},
-                                         const QList<QColor>& colours = {kNavy, kRed, kGreen})
+// A chart of the window's size with these values, navy, red and green in turn,
+// each with its tag.
+std::unique_ptr<chartingPicture> chartOf(const QList<double>& values, int type, QSize size = {553, 432})
 {
     auto chart = std::make_unique<chartingPicture>(size.width(), size.height());
+    const QColor colours[] = {kNavy, kRed, kGreen};
     for (qsizetype i = 0; i < values.size(); ++i)
-        chart->addColoredValue(values[i], QString(), colours[i % colours.size()], u"Tag %1"_s.arg(i));
+        chart->addColoredValue(values[i], QString(), colours[i % 3], u"Tag %1"_s.arg(i));
     chart->chartType = type;
     return chart;
-}
-
-QColor at(const Picture& picture, int x, int y)
-{
-    return picture.image().pixelColor(x, y);
 }
 
 const QImage& inner(const chartingPicture& chart)
@@ -73,19 +71,17 @@ bool blackish(QColor c)
 }
 
 // Text as the chart measures it: on its own surface, 11 points bold.
-class ChartMeasure {
-public:
-    ChartMeasure()
-    {
-        surface.Graphics().TextSize = 11;
-        surface.Graphics().Bold = true;
-    }
-    int width(const QString& text) { return surface.Graphics().StringWidth(text); }
-    int height(const QString& text, int wrap) { return surface.Graphics().StringHeight(text, wrap); }
-
-private:
+struct ChartMeasure {
+    ChartMeasure() { g.TextSize = 11, g.Bold = true; }
     Picture surface{10, 10};
+    Graphics& g = surface.Graphics();
 };
+
+// The left edge of the plot: 5 right of the widest label, the top one.
+int plotLeft(double largest)
+{
+    return ChartMeasure().g.StringWidth(Str(largest)) + 5;
+}
 
 // The point of a pie's circle at an angle, a little inside the edge.
 QPoint pieAt(const chartingPicture& chart, double angle, double ofRadius)
@@ -104,37 +100,29 @@ TEST(ChartingPictureTest, TheScaleTopsAtTheLargestValueWithFourIntervalsOrOneAWh
         const char* name;
         QList<double> values;
         int lines;
-        double min;
     };
     const Case cases[] = {
-        {"range 2.5", {2.5}, 2, 0},
-        {"range exactly 4", {4.0}, 4, 0},
-        {"range 3.99", {3.99}, 3, 0},
-        {"a large range", {1250, 40}, 4, 0},
-        {"a negative value widens the range, not the labels", {1, -1.5}, 2, -1.5},
+        {"range 2.5", {2.5}, 2},
+        {"range exactly 4", {4.0}, 4},
+        {"range 3.99", {3.99}, 3},
+        {"a large range", {1250, 40}, 4},
+        {"a negative value widens the range, not the labels", {1, -1.5}, 2},
     };
-    ChartMeasure measure;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         const auto chart = chartOf(c.values, 1);
         chart->drawChart();
         EXPECT_EQ(chart->numberOfLines, c.lines);
-        EXPECT_DOUBLE_EQ(chart->interval, double(kPlotHeight) / c.lines);
-        EXPECT_DOUBLE_EQ(chart->yscale, kPlotHeight / (chart->max - c.min));
-        EXPECT_EQ(chart->min, c.min);
-        EXPECT_EQ(chart->topOfChart, kTop);
-        EXPECT_EQ(chart->bottomOfChart, kBottom);
-        // The labels stand right of the widest, the top one, measured large.
-        const QString top = QString::number(chart->max);
-        EXPECT_EQ(chart->xOffset, measure.width(top) + 5);
-        EXPECT_DOUBLE_EQ(chart->chartWidth, 543 - chart->xOffset);
-
-        // A line at each interval from the label's edge to 5 short of the right.
+        // A line at each interval from the plot's left edge to 5 short of the right.
+        const int left = plotLeft(c.values[0]);
         for (int i = 0; i <= c.lines; ++i) {
-            const int y = int(i * chart->interval + 10);
-            EXPECT_EQ(at(*chart->chartPicture, 537, y), QColor(Qt::black)) << "line " << i;
-            EXPECT_NE(at(*chart->chartPicture, 539, y), QColor(Qt::black)) << "line " << i;
-            EXPECT_NE(at(*chart->chartPicture, 537, y - 1), QColor(Qt::black)) << "line " << i;
+            SCOPED_TRACE(i);
+            const int y = int(i * double(kPlotHeight) / c.lines + kTop);
+            EXPECT_EQ(inner(*chart).pixelColor(left, y), kBlack);
+            EXPECT_NE(inner(*chart).pixelColor(left - 1, y), kBlack);
+            EXPECT_EQ(inner(*chart).pixelColor(537, y), kBlack);
+            EXPECT_NE(inner(*chart).pixelColor(539, y), kBlack);
+            EXPECT_NE(inner(*chart).pixelColor(537, y - 1), kBlack);
         }
     }
 }
@@ -144,12 +132,11 @@ TEST(ChartingPictureTest, BarsStandOnTheBottomLineInProportionWithTheColourAdded
     // With a largest value of 372 a unit is a pixel: heights are the values cut.
     const auto chart = chartOf({372, 186.9, 0.5, 93}, 1);
     chart->drawChart();
-    ASSERT_DOUBLE_EQ(chart->yscale, 1.0);
-    const double s = chart->chartWidth / 8;
-    const int a = int(chart->xOffset + s + 10);
+    const double s = (543 - plotLeft(372)) / 8.0;
+    const int a = int(plotLeft(372) + s + 10);
     const int w = int(s);
     // Bar 0 is black; bar k takes the colour added with value k - 1.
-    const QColor colours[] = {Qt::black, kNavy, kRed, kGreen};
+    const QColor colours[] = {kBlack, kNavy, kRed, kGreen};
     const int heights[] = {372, 186, 0, 93};
     for (int i = 0; i < 4; ++i) {
         SCOPED_TRACE(i);
@@ -157,10 +144,10 @@ TEST(ChartingPictureTest, BarsStandOnTheBottomLineInProportionWithTheColourAdded
         EXPECT_EQ(columnHeight(*chart, x, colours[i]), heights[i]);
         EXPECT_EQ(columnHeight(*chart, x + w - 1, colours[i]), heights[i]);
         if (heights[i] > 0) {
-            EXPECT_NE(at(*chart->chartPicture, x - 1, kBottom - 1), colours[i]) << "left edge";
-            EXPECT_NE(at(*chart->chartPicture, x + w, kBottom - 1), colours[i]) << "right edge";
+            EXPECT_NE(inner(*chart).pixelColor(x - 1, kBottom - 1), colours[i]) << "left edge";
+            EXPECT_NE(inner(*chart).pixelColor(x + w, kBottom - 1), colours[i]) << "right edge";
         }
-        EXPECT_EQ(at(*chart->chartPicture, x, kBottom), QColor(Qt::black)) << "the bottom line shows";
+        EXPECT_EQ(inner(*chart).pixelColor(x, kBottom), kBlack) << "the bottom line shows";
     }
     // Each tag under its bar, in the bar's colour.
     const int second = int(s + a);
@@ -170,20 +157,18 @@ TEST(ChartingPictureTest, BarsStandOnTheBottomLineInProportionWithTheColourAdded
 
 TEST(ChartingPictureTest, AValueLabelGoesInsideOnlyABarTallerThanTheLabel)
 {
-    ChartMeasure measure;
+    const int labelHeight = ChartMeasure().g.StringHeight(u"17"_s, 200);
     for (const int extra : {0, 1}) {
         SCOPED_TRACE(extra);
         // The second bar is exactly as high as its label, or a pixel higher.
-        const int labelHeight = measure.height(u"17"_s, 200);
-        const auto chart = chartOf({372, double(labelHeight + extra)}, 1, {553, 432}, {kNavy});
+        const auto chart = chartOf({372, double(labelHeight + extra)}, 1);
         chart->showValues = true;
         chart->drawChart();
-        const double s = chart->chartWidth / 4;
-        const int x = int(s + int(chart->xOffset + s + 10));
-        const int w = int(s);
+        const double s = (543 - plotLeft(372)) / 4.0;
+        const int x = int(s + int(plotLeft(372) + s + 10));
         const int top = kBottom - labelHeight - extra;
-        const QRect bar(x, top, w, labelHeight + extra);
-        const QRect above(x, top - 3 * labelHeight, w, 3 * labelHeight);
+        const QRect bar(x, top, int(s), labelHeight + extra);
+        const QRect above(x, top - 3 * labelHeight, int(s), 3 * labelHeight);
         EXPECT_EQ(anyPixelLike(inner(*chart), bar, whitish), extra == 1) << "white inside";
         EXPECT_EQ(anyPixelLike(inner(*chart), above, blackish), extra == 0) << "black above";
     }
@@ -191,17 +176,17 @@ TEST(ChartingPictureTest, AValueLabelGoesInsideOnlyABarTallerThanTheLabel)
 
 TEST(ChartingPictureTest, ATagAsWideAsItsLimitIsShortenedWithDots)
 {
-    // One value: the tag's limit is the whole plot width, chartWidth.
+    // One value: the tag's limit is the whole plot width.
     ChartMeasure measure;
     const QString tag = u"Rental"_s;
-    const int narrowest = 10 + measure.width(u"5"_s) + 5 + measure.width(tag);
+    const int narrowest = 10 + measure.g.StringWidth(u"5"_s) + 5 + measure.g.StringWidth(tag);
     const auto draw = [](int width, const QString& text, bool noEllipse) {
         auto chart = std::make_unique<chartingPicture>(width, 432);
         chart->addColoredValue(5, QString(), kNavy, text);
         chart->chartType = 1;
         chart->forceNoEllipse = noEllipse;
         chart->drawChart();
-        return chart;
+        return chart->image();
     };
     struct Case {
         const char* name;
@@ -211,66 +196,50 @@ TEST(ChartingPictureTest, ATagAsWideAsItsLimitIsShortenedWithDots)
     const Case cases[] = {
         {"a pixel wider than the tag: whole", narrowest + 1, tag},
         {"exactly the tag's width: shortened", narrowest, u"Renta..."_s},
-        {"a limit of 0: nothing but the dots", narrowest - measure.width(tag), u"..."_s},
-        {"a limit below 0", narrowest - measure.width(tag) - 6, u"..."_s},
+        {"a limit of 0: nothing but the dots", narrowest - measure.g.StringWidth(tag), u"..."_s},
+        {"a limit below 0", narrowest - measure.g.StringWidth(tag) - 6, u"..."_s},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const auto chart = draw(c.width, tag, false);
-        EXPECT_EQ(chart->image(), draw(c.width, c.shown, true)->image());
-    }
+    for (const Case& c : cases)
+        EXPECT_EQ(draw(c.width, tag, false), draw(c.width, c.shown, true)) << c.name;
 }
 
-TEST(ChartingPictureTest, OneValueMakesAFullBarADotAndAWholeDisc)
+TEST(ChartingPictureTest, OneValueMakesADotAndAWholeDisc)
 {
-    const auto bar = chartOf({50}, 1);
-    bar->drawChart();
-    const double s = bar->chartWidth / 2;
-    const int w = int(s);
-    const int x = int(-s + int(bar->xOffset + s + 10)); // about xOffset + 10
-    EXPECT_EQ(columnHeight(*bar, x, Qt::black), kPlotHeight);
-    EXPECT_EQ(columnHeight(*bar, x + w - 1, Qt::black), kPlotHeight);
-    EXPECT_EQ(columnHeight(*bar, x + w, Qt::black), 0);
-
     // The line: a dot on the left edge at the top, no segment; the value's label
     // would stand above the top line, so it goes four and a half heights lower.
     const auto line = chartOf({50}, 3);
     line->showValues = true;
     line->drawChart();
-    EXPECT_LE(at(*line->chartPicture, line->xOffset + 1, kTop - 1).red(), 150) << "a dot, not the gradient";
-    ChartMeasure measure;
-    const int h = measure.height(u"50"_s, 543);
+    const int left = plotLeft(50);
+    EXPECT_LE(inner(*line).pixelColor(left + 1, kTop - 1).red(), 150) << "a dot, not the gradient";
+    const int h = ChartMeasure().g.StringHeight(u"50"_s, 543);
     const int labelBaseline = int(int(kTop - h * 1.5) + h * 6.0);
-    EXPECT_TRUE(anyPixelLike(inner(*line), QRect(line->xOffset - 20, labelBaseline - h, 40, h), blackish));
-    EXPECT_FALSE(anyPixelLike(inner(*line), QRect(line->xOffset + 20, kTop + 1, 400, 80), blackish))
-        << "no segment";
+    EXPECT_TRUE(anyPixelLike(inner(*line), QRect(left - 20, labelBaseline - h, 40, h), blackish));
+    EXPECT_FALSE(anyPixelLike(inner(*line), QRect(left + 20, kTop + 1, 400, 80), blackish)) << "no segment";
 
     const auto pie = chartOf({50}, 2);
     pie->drawChart();
-    for (const double angle : {0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0})
-        EXPECT_EQ(at(*pie->chartPicture, pieAt(*pie, angle, 0.97).x(), pieAt(*pie, angle, 0.97).y()),
-                  QColor(Qt::black))
-            << angle;
-    EXPECT_NE(at(*pie->chartPicture, 5, 5), QColor(Qt::black));
-    EXPECT_EQ(pie->xOffset, 0) << "a pie has no grid";
+    for (const double angle : {0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0}) {
+        const QPoint edge = pieAt(*pie, angle, 0.97);
+        EXPECT_EQ(inner(*pie).pixelColor(edge), kBlack) << angle;
+    }
+    // Outside the disc, where a grid line would run or a disc as wide as the picture reach.
+    for (const QPoint outside : {QPoint(537, kTop), QPoint(60, 199)})
+        EXPECT_NE(inner(*pie).pixelColor(outside), kBlack);
 }
 
 TEST(ChartingPictureTest, SlicesRunCounterClockwiseFromTheBottomAndANegativeOneTakesItsAngleBack)
 {
     // 50 from the bottom to the top on the right; -25 draws nothing and takes the
     // next slice's start back to a quarter; 75 from the quarter round to the start.
-    const auto pie = chartOf({50, -25, 75}, 2, {553, 432}, {kNavy, kRed, kGreen});
+    const auto pie = chartOf({50, -25, 75}, 2);
     pie->drawChart();
     const double quarter = 3.1415926 / 2;
-    const auto colourAt = [&](double angle) {
-        const QPoint point = pieAt(*pie, angle, 0.5);
-        return at(*pie->chartPicture, point.x(), point.y());
-    };
-    EXPECT_EQ(colourAt(quarter * 0.5), QColor(Qt::black)) << "the first slice";
+    const auto colourAt = [&](double angle) { return inner(*pie).pixelColor(pieAt(*pie, angle, 0.5)); };
+    EXPECT_EQ(colourAt(quarter * 0.5), kBlack) << "the first slice";
     EXPECT_EQ(colourAt(quarter * 1.5), kRed) << "the third slice, in the colour added with the second";
     EXPECT_EQ(colourAt(quarter * 2.5), kRed);
     EXPECT_EQ(colourAt(quarter * 3.5), kRed) << "closed on the start";
-    EXPECT_NE(colourAt(quarter * 1.5), kNavy) << "the negative slice";
 }
 
 TEST(ChartingPictureTest, ChartTypeZeroDrawsTheFrameAndNoData)
@@ -279,20 +248,20 @@ TEST(ChartingPictureTest, ChartTypeZeroDrawsTheFrameAndNoData)
     chart->title = u"Nothing"_s;
     chart->drawChart();
     const QColor grey(100, 100, 100);
-    EXPECT_EQ(at(*chart, 540, 12), grey) << "the header";
+    EXPECT_EQ(chart->image().pixelColor(540, 12), grey) << "the header";
     EXPECT_TRUE(anyPixelLike(chart->image(), QRect(5, 2, 60, 20), whitish)) << "its title";
     for (const QPoint edge : {QPoint(0, 200), QPoint(552, 200), QPoint(300, 431), QPoint(552, 431)})
-        EXPECT_EQ(at(*chart, edge.x(), edge.y()), grey) << "the outline at " << edge.x() << "," << edge.y();
+        EXPECT_EQ(chart->image().pixelColor(edge), grey) << "the outline at " << edge.x() << "," << edge.y();
     // Blue at the top turning white: row 28 of 432 outside, row 199 of 398 inside.
-    EXPECT_EQ(at(*chart, 2, 28), QColor(175, 207, 234));
-    EXPECT_EQ(at(*chart->chartPicture, 541, 199), QColor(212, 229, 244));
-    EXPECT_EQ(at(*chart, 546, 228), QColor(212, 229, 244)) << "the inner picture at (5, 29)";
-    EXPECT_EQ(at(*chart->chartPicture, 537, kBottom), QColor(Qt::black)) << "grid lines";
+    EXPECT_EQ(chart->image().pixelColor(2, 28), QColor(175, 207, 234));
+    EXPECT_EQ(inner(*chart).pixelColor(541, 199), QColor(212, 229, 244));
+    EXPECT_EQ(chart->image().pixelColor(546, 228), QColor(212, 229, 244)) << "the inner picture at (5, 29)";
+    EXPECT_EQ(inner(*chart).pixelColor(537, kBottom), kBlack) << "grid lines";
     for (const QColor& data : {kNavy, kRed})
         EXPECT_FALSE(anyPixelLike(inner(*chart), inner(*chart).rect(), [&](QColor c) { return c == data; }));
 }
 
-TEST(ChartingPictureTest, RedrawingChangesNothing)
+TEST(ChartingPictureTest, RedrawingChangesNothingAndClearingKeepsBlackAndTheTags)
 {
     const auto chart = chartOf({120, -30, 75.5}, 1);
     chart->showValues = true;
@@ -301,15 +270,11 @@ TEST(ChartingPictureTest, RedrawingChangesNothing)
     const QImage first = chart->image();
     chart->drawChart();
     EXPECT_EQ(chart->image(), first);
-    EXPECT_EQ(chart->values.size(), 3);
-    EXPECT_EQ(chart->valueR.size(), 4);
-    EXPECT_EQ(chart->max, 120);
-    EXPECT_EQ(chart->min, -30);
 
     chart->clearValues();
     EXPECT_TRUE(chart->values.isEmpty());
     EXPECT_EQ(chart->valueR, QList<int>{0});
-    EXPECT_EQ(chart->yTag.size(), 3) << "the tags stay";
+    EXPECT_EQ(chart->yTag.size(), 3);
 }
 
 TEST(ChartingPictureTest, WildFiguresDrawQuicklyAndSensibly)
@@ -337,15 +302,15 @@ TEST(ChartingPictureTest, WildFiguresDrawQuicklyAndSensibly)
     // A slice far larger than the whole, beside a negative one: one full disc.
     const auto wound = chartOf({1e9, -1e9 + 1}, 2);
     wound->drawChart();
-    EXPECT_EQ(at(*wound->chartPicture, 271, 60), QColor(Qt::black));
+    EXPECT_EQ(inner(*wound).pixelColor(271, 60), kBlack);
 
     // Hundreds of billions scale like any other figure.
     const double billions = 1 << 30; // a unit of value then is a power of two of a pixel
     const auto bars = chartOf({372 * billions, 93 * billions}, 1);
     bars->showValues = true;
     bars->drawChart();
-    const double s = bars->chartWidth / 4;
-    EXPECT_EQ(columnHeight(*bars, int(s + int(bars->xOffset + s + 10)), kNavy), 93);
+    const double s = (543 - plotLeft(372 * billions)) / 4.0;
+    EXPECT_EQ(columnHeight(*bars, int(s + int(plotLeft(372 * billions) + s + 10)), kNavy), 93);
 
     // Empty lists, a value list of zeros, pictures too small for a plot.
     for (const int type : {0, 1, 2, 3}) {

@@ -78,9 +78,9 @@ TEST_F(AccountTransactionsTest, ARangeKeepsTheDaysStrictlyBetweenItsMoments)
     range = applyDateRange(list, QDateTime(QDate(2014, 3, 8), QTime(23, 59)), at(4, 10));
     EXPECT_FALSE(range.removedAny);
 
-    // A day on the From side goes (its midnight is before the From moment); a
-    // day on the To side stays (its midnight is before the To moment).
-    range = applyDateRange(list, at(3, 9), at(4, 9));
+    // A day at the From moment goes, only those after it stay; a day on the To
+    // side stays (its midnight is before the To moment).
+    range = applyDateRange(list, QDateTime(QDate(2014, 3, 9), QTime(0, 0)), at(4, 9));
     EXPECT_EQ(list.ListCount(), 1);
     EXPECT_EQ(list.Cell(0, TransCol::Date), u"2014-04-09");
     EXPECT_EQ(range.total, u"0");

@@ -22,11 +22,7 @@ constexpr double kPageHeight = 842;
 
 class ListboxPrinterTest : public ::testing::Test {
 protected:
-    ListboxPrinterTest()
-    {
-        pdf = folder.path() + u"/grid.pdf"_s;
-        platform.printToPdf(pdf);
-    }
+    ListboxPrinterTest() { platform.printToPdf(pdf); }
 
     // A grid of three columns, 20%, 30% and 50% of 400 pixels, with a row for
     // each text.
@@ -53,8 +49,17 @@ protected:
         return texts;
     }
 
+    // The pages the grid's rows, printed fitted to the page, take.
+    int pagesFor(int rows)
+    {
+        Listbox grid(u"grid"_s, 3);
+        fill(grid, numbered(rows));
+        ListboxPrinter().print(grid, true);
+        return pageCountOf(pdf);
+    }
+
     QTemporaryDir folder;
-    QString pdf;
+    QString pdf = folder.path() + u"/grid.pdf"_s;
     ScriptedPlatform platform;
 };
 
@@ -65,8 +70,6 @@ TEST_F(ListboxPrinterTest, EveryRowOnceUnderTheHeadingsOfEveryPage)
     Listbox grid(u"grid"_s, 3);
     fill(grid, numbered(300));
     ListboxPrinter().print(grid, true);
-    EXPECT_EQ(platform.pageSetups, 1);
-    EXPECT_EQ(platform.printerDialogs, 1);
     const QList<Word> words = wordsOf(pdf);
     const int pages = pagesOf(words);
     ASSERT_GT(pages, 3);
@@ -79,14 +82,16 @@ TEST_F(ListboxPrinterTest, EveryRowOnceUnderTheHeadingsOfEveryPage)
         EXPECT_LT(row[0].box.bottom(), kPageHeight - kMargin + 3) << "inside the printable area";
     }
     const int perPage = rowsOnPage[1];
-    for (int page = 1; page <= pages; ++page) {
-        SCOPED_TRACE(testing::Message() << "page " << page);
-        for (const QString& heading : {u"Alpha"_s, u"Beta"_s, u"Gamma"_s}) {
-            const QList<Word> onPage = named(words, heading);
-            EXPECT_EQ(std::count_if(onPage.begin(), onPage.end(), [&](const Word& w) { return w.page == page; }), 1);
-        }
-        if (page < pages)
-            EXPECT_EQ(rowsOnPage[page], perPage);
+    for (int page = 1; page < pages; ++page)
+        EXPECT_EQ(rowsOnPage[page], perPage) << "page " << page;
+    QList<int> everyPage;
+    for (int page = 1; page <= pages; ++page)
+        everyPage << page;
+    for (const QString& heading : {u"Alpha"_s, u"Beta"_s, u"Gamma"_s}) {
+        QList<int> onPages;
+        for (const Word& word : named(words, heading))
+            onPages << word.page;
+        EXPECT_EQ(onPages, everyPage) << heading.toStdString();
     }
     // The headings at the top of the page's printable area, the rows below them;
     // a full page filled to within two rows of its foot.
@@ -94,22 +99,15 @@ TEST_F(ListboxPrinterTest, EveryRowOnceUnderTheHeadingsOfEveryPage)
     const Word alpha = named(words, u"Alpha"_s)[0];
     EXPECT_NEAR(alpha.box.top(), kMargin, 2);
     EXPECT_GT(first.box.top(), alpha.box.bottom());
-    const Word lastOfPage = named(words, numbered(300)[perPage - 1])[0];
     const double pitch = named(words, u"r0002"_s)[0].box.top() - first.box.top();
-    EXPECT_GT(lastOfPage.box.bottom(), kPageHeight - kMargin - 2 * pitch);
+    EXPECT_GT(named(words, numbered(300)[perPage - 1])[0].box.bottom(), kPageHeight - kMargin - 2 * pitch);
 
     // Exactly the rows a page holds: the last one ends the page, and the next
     // page has the headings alone. One row fewer fits on one page.
-    Listbox full(u"full"_s, 3);
-    fill(full, numbered(perPage));
-    ListboxPrinter().print(full, true);
+    EXPECT_EQ(pagesFor(perPage), 2);
     const QList<Word> fullWords = wordsOf(pdf);
-    EXPECT_EQ(pagesOf(fullWords), 2);
     EXPECT_EQ(std::count_if(fullWords.begin(), fullWords.end(), [](const Word& w) { return w.page == 2; }), 3);
-    Listbox fewer(u"fewer"_s, 3);
-    fill(fewer, numbered(perPage - 1));
-    ListboxPrinter().print(fewer, true);
-    EXPECT_EQ(pagesOf(wordsOf(pdf)), 1);
+    EXPECT_EQ(pagesFor(perPage - 1), 1);
 }
 
 TEST_F(ListboxPrinterTest, WideHeadingsAndCellsStartAtTheirColumnAndAZeroColumnTakesNoRoom)
@@ -132,36 +130,35 @@ TEST_F(ListboxPrinterTest, WideHeadingsAndCellsStartAtTheirColumnAndAZeroColumnT
     grid.SetCellBold(1, 0, true);
     ListboxPrinter().print(grid, false);
     const QList<Word> words = wordsOf(pdf);
+    const auto word = [&](const QString& text) { return named(words, text).value(0); };
 
     // The wide heading starts 3 in and wraps at the column's width.
     const QList<Word> heading = named(words, u"A"_s) + named(words, u"heading"_s) + named(words, u"column"_s);
     ASSERT_EQ(heading.size(), 3);
     EXPECT_NEAR(heading[0].box.left(), kMargin + 3, 1);
     EXPECT_GT(heading[2].box.top(), heading[0].box.top()) << "on a line below";
-    for (const Word& word : heading)
-        EXPECT_LT(word.box.right(), kMargin + 103);
+    for (const Word& part : heading)
+        EXPECT_LT(part.box.right(), kMargin + 103);
     // "Right" centred over its 300 points, which begin where column 0 ends.
-    const Word right = named(words, u"Right"_s).value(0);
-    EXPECT_NEAR(right.box.center().x(), kMargin + 100 + 150, 1.5);
+    EXPECT_NEAR(word(u"Right"_s).box.center().x(), kMargin + 100 + 150, 1.5);
     // The zero-width column: its heading and its cell 3 in from the same edge,
     // neither wrapped.
-    EXPECT_NEAR(named(words, u"Zero"_s).value(0).box.left(), kMargin + 103, 1);
-    EXPECT_NEAR(named(words, u"zero"_s).value(0).box.left(), kMargin + 103, 1);
+    EXPECT_NEAR(word(u"Zero"_s).box.left(), kMargin + 103, 1);
+    EXPECT_NEAR(word(u"zero"_s).box.left(), kMargin + 103, 1);
     // A right-aligned cell wider than its column starts at its left edge.
     const auto wide = std::find_if(words.begin(), words.end(), [](const Word& w) { return w.text.startsWith(u"Avery"); });
     ASSERT_NE(wide, words.end());
     EXPECT_NEAR(wide->box.left(), kMargin, 1);
     EXPECT_LT(wide->box.right(), kMargin + 101) << "and wraps";
-    EXPECT_NEAR(named(words, u"right"_s).value(0).box.right(), kMargin + 400, 1);
+    EXPECT_NEAR(word(u"right"_s).box.right(), kMargin + 400, 1);
 
     // The band under row 0 only, the rules the full height of the page.
     const QImage page = pageImage(pdf, 1, folder.path());
     ASSERT_FALSE(page.isNull());
-    const int row0 = int(named(words, u"zero"_s).value(0).box.center().y());
-    const int row1 = int(named(words, u"short"_s).value(0).box.center().y());
-    EXPECT_EQ(page.pixelColor(int(kMargin) + 350, row0), QColor(245, 245, 245));
-    EXPECT_EQ(page.pixelColor(int(kMargin) + 350, row1), QColor(Qt::white));
-    EXPECT_EQ(page.pixelColor(int(kMargin) + 350, 700), QColor(Qt::white));
+    const int band = int(kMargin) + 350;
+    EXPECT_EQ(page.pixelColor(band, int(word(u"zero"_s).box.center().y())), QColor(245, 245, 245));
+    EXPECT_EQ(page.pixelColor(band, int(word(u"short"_s).box.center().y())), QColor(Qt::white));
+    EXPECT_EQ(page.pixelColor(band, 700), QColor(Qt::white));
     int darkest = 255;
     for (int x = int(kMargin) + 98; x <= int(kMargin) + 102; ++x)
         darkest = std::min(darkest, page.pixelColor(x, 800).red());
@@ -170,24 +167,18 @@ TEST_F(ListboxPrinterTest, WideHeadingsAndCellsStartAtTheirColumnAndAZeroColumnT
 
 TEST_F(ListboxPrinterTest, CancellingEitherDialogPrintsNothingAndAnEmptyGridItsHeadings)
 {
-    Listbox grid(u"grid"_s, 3);
-    fill(grid, {u"one"_s});
     platform.confirmPageSetup = false;
-    ListboxPrinter().print(grid, true);
+    EXPECT_EQ(pagesFor(1), 0);
     EXPECT_EQ(platform.printerDialogs, 0);
     platform.confirmPageSetup = true;
     platform.printToPdf({});
-    ListboxPrinter().print(grid, true);
+    EXPECT_EQ(pagesFor(1), 0);
     EXPECT_EQ(platform.printerDialogs, 1);
     EXPECT_FALSE(QFile::exists(pdf));
 
     platform.printToPdf(pdf);
-    Listbox empty(u"empty"_s, 3);
-    fill(empty, {});
-    ListboxPrinter().print(empty, true);
-    const QList<Word> words = wordsOf(pdf);
-    EXPECT_EQ(pagesOf(words), 1);
-    EXPECT_EQ(words.size(), 3);
+    EXPECT_EQ(pagesFor(0), 1);
+    EXPECT_EQ(wordsOf(pdf).size(), 3);
 }
 
 TEST_F(ListboxPrinterTest, ACellLongerThanThePageGoesOnOverTheNextPagesLineByLine)
@@ -200,19 +191,18 @@ TEST_F(ListboxPrinterTest, ACellLongerThanThePageGoesOnOverTheNextPagesLineByLin
     ListboxPrinter().print(grid, true);
     const QList<Word> printed = wordsOf(pdf);
     ASSERT_GT(pagesOf(printed), 2);
-    double previousTop = 0;
-    int previousPage = 1;
-    for (const QString& word : words) {
-        const QList<Word> found = named(printed, word);
-        ASSERT_EQ(found.size(), 1) << word.toStdString();
+    const double headingsBottom = named(printed, u"Alpha"_s)[0].box.bottom();
+    Word previous{1, {}, {}};
+    for (const QString& text : words) {
+        const QList<Word> found = named(printed, text);
+        ASSERT_EQ(found.size(), 1) << text.toStdString();
         const Word& w = found[0];
-        EXPECT_LT(w.box.bottom(), kPageHeight - kMargin + 3) << word.toStdString();
+        SCOPED_TRACE(text.toStdString());
+        EXPECT_LT(w.box.bottom(), kPageHeight - kMargin + 3);
         // Below the headings of its page, and after the word before it.
-        EXPECT_GT(w.box.top(), named(printed, u"Alpha"_s)[0].box.bottom()) << word.toStdString();
-        EXPECT_TRUE(w.page > previousPage || (w.page == previousPage && w.box.top() >= previousTop))
-            << word.toStdString();
-        previousTop = w.box.top();
-        previousPage = w.page;
+        EXPECT_GT(w.box.top(), headingsBottom);
+        EXPECT_TRUE(w.page > previous.page || (w.page == previous.page && w.box.top() >= previous.box.top()));
+        previous = w;
     }
-    EXPECT_EQ(named(printed, u"after"_s).value(0).page, previousPage);
+    EXPECT_EQ(named(printed, u"after"_s).value(0).page, previous.page);
 }

@@ -23,6 +23,7 @@ protected:
     void press(int x, int y) { QTest::mousePress(&button, Qt::LeftButton, {}, QPoint(x, y)); }
     void drag(int x, int y) { QTest::mouseMove(&button, QPoint(x, y)); }
     void release(int x, int y) { QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(x, y)); }
+    bool pressedLook() const { return button.Backdrop() == nullptr; } // the null pressedIcon
 
     PictureRef picture = std::make_shared<Picture>(36, 36);
     AutoButton button;
@@ -38,22 +39,28 @@ TEST_F(AutoButtonTest, ClickInsideShowsThePressedLookThenRaisesActionAndMouseUp)
     QLabel label(u"Add"_s);
     button.myText = &label;
     press(18, 18);
-    EXPECT_EQ(button.Backdrop(), nullptr) << "the pressed look is the null pressedIcon";
+    EXPECT_TRUE(pressedLook());
     EXPECT_TRUE(label.font().bold());
     release(18, 18);
     EXPECT_EQ(action.count(), 1);
     EXPECT_EQ(mouseUp.count(), 1);
     EXPECT_EQ(button.Backdrop(), picture);
     EXPECT_FALSE(label.font().bold());
+
+    AutoButton area; // without any picture: a click area
+    area.Event_Open();
+    QSignalSpy areaAction(&area, &AutoButton::Action);
+    QTest::mouseClick(&area, Qt::LeftButton);
+    EXPECT_EQ(areaAction.count(), 1);
 }
 
 TEST_F(AutoButtonTest, PressIsGivenUpOnlyBeyondTheEdgeAndTakenBackInside)
 {
     press(18, 18);
     drag(36, 18);
-    EXPECT_EQ(button.Backdrop(), nullptr) << "x = Width is not yet beyond the button";
+    EXPECT_TRUE(pressedLook()) << "x = Width is not yet beyond the button";
     drag(18, 37);
-    EXPECT_EQ(button.Backdrop(), picture);
+    EXPECT_FALSE(pressedLook());
     release(18, 37);
     EXPECT_EQ(mouseUp.count(), 0) << "a press dragged away ends silently";
     press(18, 18);
@@ -62,9 +69,9 @@ TEST_F(AutoButtonTest, PressIsGivenUpOnlyBeyondTheEdgeAndTakenBackInside)
 
     press(18, 18);
     drag(-1, 18);
-    EXPECT_EQ(button.Backdrop(), picture);
+    EXPECT_FALSE(pressedLook());
     drag(10, 10);
-    EXPECT_EQ(button.Backdrop(), nullptr) << "back inside it is pressed again";
+    EXPECT_TRUE(pressedLook()) << "back inside it is pressed again";
     release(10, 10);
     EXPECT_EQ(action.count(), 2);
     EXPECT_EQ(mouseUp.count(), 2);
@@ -89,7 +96,6 @@ TEST_F(AutoButtonTest, LookFollowsEnabledStateAndForgetsALaterBackdrop)
     EXPECT_FALSE(button.isEnabled());
     button.enableMe();
     EXPECT_EQ(button.Backdrop(), picture);
-    EXPECT_TRUE(button.isEnabled());
 
     button.setBackdrop(std::make_shared<Picture>(36, 36));
     press(18, 18);
@@ -99,25 +105,14 @@ TEST_F(AutoButtonTest, LookFollowsEnabledStateAndForgetsALaterBackdrop)
     EXPECT_EQ(button.Backdrop(), picture);
 }
 
-TEST_F(AutoButtonTest, ButtonWithoutAnyPictureIsAClickArea)
-{
-    AutoButton area;
-    area.Event_Open();
-    QSignalSpy areaAction(&area, &AutoButton::Action);
-    QTest::mouseClick(&area, Qt::LeftButton);
-    EXPECT_EQ(areaAction.count(), 1);
-}
-
 TEST_F(AutoButtonTest, ToggleButtonStaysOnAndItsSecondPressSwitchesOffAtOnce)
 {
     button.Toggle = true;
     press(18, 18);
     release(18, 18);
-    EXPECT_TRUE(button.toggleOn);
-    EXPECT_EQ(button.Backdrop(), nullptr) << "keeps its pressed look";
+    EXPECT_TRUE(pressedLook()) << "keeps its pressed look";
 
     press(18, 18);
-    EXPECT_FALSE(button.toggleOn);
     EXPECT_EQ(button.Backdrop(), picture);
     EXPECT_EQ(mouseUp.count(), 2) << "the switching-off press ends at once";
     release(18, 18);
