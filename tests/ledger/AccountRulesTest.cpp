@@ -3,6 +3,7 @@
 #include "engine/RowLayouts.h"
 #include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
+#include "ledger/TransactionOperations.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
@@ -124,4 +125,23 @@ TEST_F(AccountRulesTest, EditingRenamesTheTransactionsAndKeepsTheRowInPlace)
     EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"RENT"_s), false, 2, u"Rent"_s), u"");
     EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"RENT");
     EXPECT_TRUE(readBytes(transPath()).contains("@#@RENT@#@2026-01-04@#@"));
+}
+
+TEST_F(AccountRulesTest, DeletingTakesTheRowsAndRecalculates)
+{
+    // The account goes with its transactions in any letter case, after a "Delete".
+    books.accountsBox.SetListIndex(1);
+    platform.answerNextDialog(MessageDialog::Button::Action);
+    AccountOperations(books).deleteSelectedAccount();
+    EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Rent"_s}));
+    EXPECT_EQ(column(books.transBox, TransCol::Account), QStringList{u"Rent"_s});
+    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Balance), u"80.00");
+
+    // Deleting the selected transactions recalculates too.
+    books.transBox.setSelectedRows({0});
+    platform.answerNextDialog(MessageDialog::Button::Action);
+    TransactionOperations(books).deleteSelectedTransactions();
+    EXPECT_EQ(books.transBox.ListCount(), 0);
+    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Balance), u"100.00");
+    EXPECT_TRUE(readBytes(accountsPath()).startsWith("@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"));
 }
