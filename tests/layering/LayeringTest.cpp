@@ -200,59 +200,36 @@ TEST(Layering, TheSourcesIncludeOnlyDownward)
     EXPECT_EQ(layeringProblems(root), "");
 }
 
-TEST(Layering, EachKindOfUpwardIncludeIsNamed)
+// The check itself: each kind of problem is named, and a clean tree has none.
+TEST(Layering, EachKindOfProblemIsNamed)
 {
     SourceTree tree;
     tree.file("platform/Text.h", "#pragma once\n#include <QString>\n");
-    tree.file("books/rowtable/Listbox.h", "#include \"platform/Text.h\"\n");
-    tree.file("books/rowtable/ui/ListboxView.h", "#include <QTableView>\n#include \"books/rowtable/Listbox.h\"\n");
-    tree.file("engine/RowLayouts.h", "#include \"books/rowtable/Listbox.h\"\n");
-    tree.file("ledger/SummaryBooks.h", "#include \"engine/RowLayouts.h\"\n");
+    tree.file("books/rowtable/ui/ListboxView.h", "#include <QTableView>\n#include \"platform/Text.h\"\n");
+    tree.file("books/Names.h", "#include \"platform/Text.h\"\n");
+    tree.file("engine/RowLayouts.h", "#include \"books/Names.h\"\n");
+    tree.file("engine/ui/AccountWindow.h", "#include \"engine/RowLayouts.h\"\n#include \"../../widgets/Canvas.h\"\n");
     tree.file("widgets/Canvas.h", "#include <QWidget>\n");
-    tree.file("engine/ui/AccountWindow.h", "#include \"ledger/SummaryBooks.h\"\n#include \"widgets/Canvas.h\"\n");
     tree.file("mainwindow/SummaryWindow.h", "#include \"engine/ui/AccountWindow.h\"\n");
-    tree.file("app/Windows.h", "#pragma once\n");
-    tree.file("app/Windows.cpp", "#include \"app/Windows.h\"\n#include \"mainwindow/SummaryWindow.h\"\n");
-    tree.file("cli/CommandLine.cpp", "#include \"ledger/SummaryBooks.h\"\n");
+    tree.file("app/Windows.cpp", "#include \"mainwindow/SummaryWindow.h\"\n");
+    tree.file("cli/CommandLine.cpp", "#include \"engine/RowLayouts.h\"\n");
     ASSERT_EQ(layeringProblems(tree.root), "");
 
     tree.file("books/LedgerNames.cpp", "#include \"engine/RowLayouts.h\"\n");
-    tree.file("engine/Balance.cpp", "#include \"ledger/SummaryBooks.h\"\n#include <QLabel>\n#include <QtWidgets/QDialog>\n");
+    tree.file("engine/Balance.cpp", "#include \"books/rowtable/ui/ListboxView.h\"\n#include <QtWidgets/QDialog>\n");
     tree.file("platform/Picture.cpp", "#include <QPrinter>\n");
-    tree.file("ledger/Books.cpp", "#include \"widgets/Canvas.h\"\n#include <QMenu>\n");
-    tree.file("engine/ui/TransactionWindow.cpp", "#include \"mainwindow/SummaryWindow.h\"\n");
-    tree.file("widgets/DateControl.cpp", "#include \"app/Windows.h\"\n#include \"engine/ui/AccountWindow.h\"\n");
-    tree.file("mainwindow/Commands.cpp", "#include \"app/Windows.h\"\n#include \"cli/CommandLine.cpp\"\n");
-    tree.file("cli/Verbs.cpp", "#include \"widgets/Canvas.h\"\n");
-    tree.file("engine/ui/Near.cpp", "#include \"../../app/Windows.h\"\n");
-    const std::string problems = layeringProblems(tree.root);
-    for (const char* expected : {"books/LedgerNames.cpp:1 includes engine/RowLayouts.h: it points up",
-                                 "engine/Balance.cpp:1 includes ledger/SummaryBooks.h: it points up",
-                                 "engine/Balance.cpp:2 includes QLabel: the core uses no widget",
-                                 "engine/Balance.cpp:3 includes QtWidgets/QDialog: the core uses no widget",
-                                 "platform/Picture.cpp:1 includes QPrinter: the core uses no widget",
-                                 "ledger/Books.cpp:1 includes widgets/Canvas.h: it points up",
-                                 "ledger/Books.cpp:2 includes QMenu: the core uses no widget",
-                                 "engine/ui/TransactionWindow.cpp:1 includes mainwindow/SummaryWindow.h: it points up",
-                                 "widgets/DateControl.cpp:1 includes app/Windows.h: it points up",
-                                 "widgets/DateControl.cpp:2 includes engine/ui/AccountWindow.h: it points up",
-                                 "mainwindow/Commands.cpp:1 includes app/Windows.h: it points up",
-                                 "mainwindow/Commands.cpp:2 includes cli/CommandLine.cpp: it points up",
-                                 "cli/Verbs.cpp:1 includes widgets/Canvas.h: it points up",
-                                 "engine/ui/Near.cpp:1 includes ../../app/Windows.h: it points up",
-                                 "folders include each other: books -> engine -> books",
-                                 "folders include each other: engine -> ledger -> engine"})
-        EXPECT_NE(problems.find(expected), std::string::npos) << expected << "\nnot in\n" << problems;
-    EXPECT_EQ(problems.find("QString"), std::string::npos) << "QtCore and QtGui are the core's own";
-}
-
-TEST(Layering, WindowsThatIncludeEachOtherFormACircle)
-{
-    SourceTree tree;
-    tree.file("books/ui/newBookWindow.cpp", "#include \"engine/ui/AccountWindow.h\"\n");
-    tree.file("engine/ui/AccountWindow.h", "#pragma once\n");
+    tree.file("engine/ui/Near.cpp", "#include \"../../mainwindow/SummaryWindow.h\"\n");
+    tree.file("mainwindow/Commands.cpp", "#include \"cli/CommandLine.cpp\"\n");
+    tree.file("reports/ui/ledgerWindow.h", "#include \"engine/ui/AccountWindow.h\"\n");
     tree.file("engine/ui/AccountWindow.cpp", "#include \"reports/ui/ledgerWindow.h\"\n");
-    tree.file("reports/ui/ledgerWindow.h", "#include \"books/ui/newBookWindow.h\"\n");
-    tree.file("books/ui/newBookWindow.h", "#pragma once\n");
-    EXPECT_EQ(layeringProblems(tree.root), "folders include each other: books/ui -> engine/ui -> reports/ui -> books/ui\n");
+    EXPECT_EQ(layeringProblems(tree.root),
+              "books/LedgerNames.cpp:1 includes engine/RowLayouts.h: it points up\n"
+              "engine/Balance.cpp:1 includes books/rowtable/ui/ListboxView.h: it points up\n"
+              "engine/Balance.cpp:2 includes QtWidgets/QDialog: the core uses no widget\n"
+              "engine/ui/Near.cpp:1 includes ../../mainwindow/SummaryWindow.h: it points up\n"
+              "mainwindow/Commands.cpp:1 includes cli/CommandLine.cpp: it points up\n"
+              "platform/Picture.cpp:1 includes QPrinter: the core uses no widget\n"
+              "folders include each other: books -> engine -> books\n"
+              "folders include each other: engine/ui -> mainwindow -> engine/ui\n"
+              "folders include each other: engine/ui -> reports/ui -> engine/ui\n");
 }
