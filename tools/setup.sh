@@ -12,9 +12,12 @@ esac
 
 cd "$(dirname "$0")/.."
 
-# poppler-utils: the printing tests read their PDFs back with pdftotext and pdftoppm.
+# poppler-utils: the printing tests read their PDFs back with pdftotext and pdftoppm;
+# desktop-file-utils and appstream: the install test validates the menu entry and
+# the software-centre description.
 ./tools/install-packages.sh build-essential cmake ninja-build qt6-base-dev qt6-qpa-plugins \
-    libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core xvfb xauth poppler-utils
+    libgtest-dev libgmock-dev libbenchmark-dev fonts-dejavu-core xvfb xauth poppler-utils \
+    desktop-file-utils appstream
 
 build=build
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo

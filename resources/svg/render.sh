@@ -24,3 +24,10 @@ cp "$tango/32x32/apps/accessories-calculator.png" "$out/calculatorpng_32x32.png"
 cp "$tango/32x32/categories/applications-system.png" "$out/processpng_32x32.png"
 rsvg-convert -w 40 -h 40 "$tango/scalable/devices/printer.svg" -o "$out/printer.png"
 rsvg-convert -w 36 -h 36 "$tango/scalable/devices/printer.svg" -o "$out/printer36.png"
+
+# the application's icon for the desktop, at the sizes of the hicolor theme
+for size in 16 24 32 48 64 128 256; do
+    mkdir -p "$out/../icons/hicolor/${size}x${size}/apps"
+    rsvg-convert -w $size -h $size "$here/bookIcon.svg" | convert png:- -strip -define png:exclude-chunks=date,time \
+        "$out/../icons/hicolor/${size}x${size}/apps/app.quillmark.Quillmark.png"
+done
