@@ -23,6 +23,7 @@ QString offerText(const QString& appName);
 // system's temporary folder.
 QString versionFilePath();
 
+// What a version file asks for once it has been read.
 struct Verdict {
     bool keepFile = false; // an empty first line leaves the file where it is
     QString offer;         // the offer to show, or empty for none
