@@ -86,8 +86,7 @@ TEST_F(WindowSplitterTest, RegisteredControlsAreIteratedInOrderWithTheirSide)
 
 TEST_F(WindowSplitterTest, GridInARegisteredGroupBoxStaysThereAndGrowsWithTheBar)
 {
-    // Laid out in the window first, then registered grid first, as the main
-    // window does with its accounts grid and its two group boxes.
+    // Laid out in the window, then registered grid first, as the main window does.
     QListWidget* grids[2];
     QGroupBox* boxes[2];
     for (int i = 0; i < 2; ++i) {
@@ -100,8 +99,8 @@ TEST_F(WindowSplitterTest, GridInARegisteredGroupBoxStaysThereAndGrowsWithTheBar
     splitter->AddControl(grids[0], true);
     splitter->AddControl(boxes[0], true);
     splitter->AddControl(boxes[1], false);
-    EXPECT_EQ(grids[0]->parentWidget(), boxes[0]);
     EXPECT_EQ(layout->count(), 1) << "only the splitter is left in the window's layout";
+    EXPECT_EQ(grids[0]->parentWidget(), boxes[0]);
 
     host.show();
     splitter->setSizes({180, 213});
