@@ -46,12 +46,6 @@ TEST_F(AutoButtonTest, ClickInsideShowsThePressedLookThenRaisesActionAndMouseUp)
     EXPECT_EQ(mouseUp.count(), 1);
     EXPECT_EQ(button.Backdrop(), picture);
     EXPECT_FALSE(label.font().bold());
-
-    AutoButton area; // without any picture: a click area
-    area.Event_Open();
-    QSignalSpy areaAction(&area, &AutoButton::Action);
-    QTest::mouseClick(&area, Qt::LeftButton);
-    EXPECT_EQ(areaAction.count(), 1);
 }
 
 TEST_F(AutoButtonTest, PressIsGivenUpBeyondTheEdgeTakenBackInsideAndTheEdgeIsOutsideForTheRelease)
