@@ -46,15 +46,9 @@ TEST_F(AutoButtonTest, ClickInsideShowsThePressedLookThenRaisesActionAndMouseUp)
     EXPECT_EQ(mouseUp.count(), 1);
     EXPECT_EQ(button.Backdrop(), picture);
     EXPECT_FALSE(label.font().bold());
-
-    AutoButton area; // without any picture: a click area
-    area.Event_Open();
-    QSignalSpy areaAction(&area, &AutoButton::Action);
-    QTest::mouseClick(&area, Qt::LeftButton);
-    EXPECT_EQ(areaAction.count(), 1);
 }
 
-TEST_F(AutoButtonTest, PressIsGivenUpOnlyBeyondTheEdgeAndTakenBackInside)
+TEST_F(AutoButtonTest, PressIsGivenUpBeyondTheEdgeTakenBackInsideAndTheEdgeIsOutsideForTheRelease)
 {
     press(18, 18);
     drag(36, 18);
@@ -63,9 +57,6 @@ TEST_F(AutoButtonTest, PressIsGivenUpOnlyBeyondTheEdgeAndTakenBackInside)
     EXPECT_FALSE(pressedLook());
     release(18, 37);
     EXPECT_EQ(mouseUp.count(), 0) << "a press dragged away ends silently";
-    press(18, 18);
-    release(18, 18);
-    EXPECT_EQ(mouseUp.count(), 1) << "the silence does not carry over to the next press";
 
     press(18, 18);
     drag(-1, 18);
@@ -73,20 +64,17 @@ TEST_F(AutoButtonTest, PressIsGivenUpOnlyBeyondTheEdgeAndTakenBackInside)
     drag(10, 10);
     EXPECT_TRUE(pressedLook()) << "back inside it is pressed again";
     release(10, 10);
-    EXPECT_EQ(action.count(), 2);
-    EXPECT_EQ(mouseUp.count(), 2);
-}
+    EXPECT_EQ(action.count(), 1);
+    EXPECT_EQ(mouseUp.count(), 1) << "the silence does not carry over to the next press";
 
-TEST_F(AutoButtonTest, ReleaseOnTheEdgeIsOutside)
-{
     for (const QPoint& edge : {QPoint(0, 18), QPoint(36, 18), QPoint(18, 0), QPoint(18, 36)}) {
         press(18, 18);
         drag(edge.x(), edge.y());
         release(edge.x(), edge.y());
         EXPECT_EQ(button.Backdrop(), picture);
     }
-    EXPECT_EQ(action.count(), 0);
-    EXPECT_EQ(mouseUp.count(), 4) << "the press never left, so its end is reported";
+    EXPECT_EQ(action.count(), 1);
+    EXPECT_EQ(mouseUp.count(), 5) << "the press never left, so its end is reported";
 }
 
 TEST_F(AutoButtonTest, LookFollowsEnabledStateAndForgetsALaterBackdrop)

@@ -2,7 +2,6 @@
 
 #include <QGroupBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QSignalSpy>
 #include <QSplitterHandle>
 #include <QTest>
@@ -82,32 +81,4 @@ TEST_F(WindowSplitterTest, RegisteredControlsAreIteratedInOrderWithTheirSide)
     EXPECT_FALSE(splitter->HasNext()) << "a destroyed control is no longer registered";
     splitter->AddControl(pane, false);
     EXPECT_EQ(pane->parentWidget(), splitter->afterArea()) << "registered again on the other side";
-}
-
-TEST_F(WindowSplitterTest, GridInARegisteredGroupBoxStaysThereAndGrowsWithTheBar)
-{
-    // Laid out in the window first, then registered grid first, as the main
-    // window does with its accounts grid and its two group boxes.
-    QListWidget* grids[2];
-    QGroupBox* boxes[2];
-    for (int i = 0; i < 2; ++i) {
-        boxes[i] = new QGroupBox(&host);
-        auto* boxLayout = new QVBoxLayout(boxes[i]);
-        boxLayout->addWidget(new QLabel(boxes[i]));
-        boxLayout->addWidget(grids[i] = new QListWidget(boxes[i]));
-        layout->addWidget(boxes[i]);
-    }
-    splitter->AddControl(grids[0], true);
-    splitter->AddControl(boxes[0], true);
-    splitter->AddControl(boxes[1], false);
-    EXPECT_EQ(grids[0]->parentWidget(), boxes[0]);
-    EXPECT_EQ(layout->count(), 1) << "only the splitter is left in the window's layout";
-
-    host.show();
-    splitter->setSizes({180, 213});
-    const int upper = grids[0]->height();
-    const int lower = grids[1]->height();
-    dragBar(40);
-    EXPECT_EQ(grids[0]->height(), upper + 40);
-    EXPECT_EQ(grids[1]->height(), lower - 40);
 }
