@@ -1,41 +1,27 @@
 #include "app/SplashWindow.h"
 #include "mainwindow/SummaryWindowFixture.h"
+#include "support/LocalHttpServer.h"
 #include "update/StartupGlobals.h"
 #include "update/ui/newVersionWindow.h"
 #include "widgets/ProgressWheel.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QTcpServer>
-#include <QTcpSocket>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// The update server: answers every request with body, or keeps silent.
-class UpdateServer {
+// The update server of the test's run: answers every request with body, or keeps
+// silent.
+class UpdateServer : public LocalHttpServer {
 public:
-    explicit UpdateServer(QByteArray body)
+    explicit UpdateServer(const QByteArray& body)
+        : LocalHttpServer([body](const QByteArray&) { return body.isEmpty() ? body : httpResponse("200 OK", body); })
     {
-        EXPECT_TRUE(server.listen(QHostAddress::LocalHost));
-        QObject::connect(&server, &QTcpServer::newConnection, &server, [this, body] {
-            QTcpSocket* client = server.nextPendingConnection();
-            QObject::connect(client, &QTcpSocket::readyRead, client, [this, client, body] {
-                asked << client->readAll().split(' ').value(1);
-                if (body.isEmpty())
-                    return;
-                client->write("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(body.size())
-                              + "\r\nConnection: close\r\n\r\n" + body);
-                client->disconnectFromHost();
-            });
-        });
-        qputenv("QUILLMARK_SERVER", u"http://127.0.0.1:%1/mirror/"_s.arg(server.serverPort()).toUtf8());
+        qputenv("QUILLMARK_SERVER", url(u"/mirror/"_s).toUtf8());
     }
     ~UpdateServer() { qunsetenv("QUILLMARK_SERVER"); }
-
-    QTcpServer server;
-    QByteArrayList asked;
 };
 
 class SplashWindowTest : public SummaryWindowTest {
@@ -92,7 +78,7 @@ TEST_F(SplashWindowTest, ANewerVersionIsOfferedAndDownloadNowHandsItsAddressToTh
               u"There is a newer version of Quillmark Pro available. Would you like to download it now?"_s);
     EXPECT_EQ(window->size(), QSize(457, 147));
     QTest::keyClick(window, Qt::Key_Return);
-    EXPECT_EQ(platform.urls, QStringList{u"http://127.0.0.1:%1/mirror/fernwright.zip"_s.arg(newer.server.serverPort())});
+    EXPECT_EQ(platform.urls, QStringList{newer.url(u"/mirror/fernwright.zip"_s)});
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
 
     Windows::SplashWindow()->Event_Open(); // a second check, a second offer
