@@ -51,13 +51,6 @@ TEST_F(AccountTransactionsTest, TheAccountsRowsAnyCaseWithTheirLinksAndFiguresOf
     EXPECT_EQ(lines(), (QStringList{u"|Rent|2014-03-09|March|A1|-40.00|5.00|-45.00 |0|rent memo"_s,
                                     u"|rent|2014-04-09|April||0.00|0.00|0.00 |2|"_s,
                                     u"1000|RENT|bad date|||0.00|0.00|0.00 |3|"_s}));
-
-    Listbox accounts(u"accountsBox"_s, AccountCol::Count);
-    accounts.AddRow();
-    accounts.AddRow();
-    accounts.SetCell(1, AccountCol::Balance, u"-45"_s);
-    accounts.SetListIndex(1);
-    EXPECT_EQ(selectedAccountBalance(accounts), u"-45");
 }
 
 TEST_F(AccountTransactionsTest, ARangeKeepsTheDaysStrictlyBetweenItsMoments)

@@ -23,7 +23,6 @@ class SummaryPrintTest : public ::testing::Test {
 protected:
     SummaryPrintTest()
     {
-        pdf = folder.path() + u"/print.pdf"_s;
         platform.printToPdf(pdf);
         setUpAccountsBox(accounts);
         setUpTransBox(transactions);
@@ -60,7 +59,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString pdf;
+    QString pdf = folder.path() + u"/print.pdf"_s;
     ScriptedPlatform platform;
     Listbox accounts{u"accountsBox"_s, AccountCol::Count};
     Listbox transactions{u"transBox"_s, TransCol::Count};

