@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -17,32 +16,17 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-class FileStoreTest : public ::testing::Test {
-protected:
-    QString at(const QString& name) const { return folder.path() + u'/' + name; }
-    QStringList entries() const
-    {
-        return QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
-
-    QTemporaryDir folder;
-    QTemporaryDir outside;
-};
-
-} // namespace
-
-TEST_F(FileStoreTest, AFilesPathIsMadeInsideBooksOnly)
+TEST(FileStore, AFilesPathIsMadeInsideBooksOnly)
 {
-    const QString books = folder.path();
+    const QString books = u"/data/Books"_s;
     const QString longest = u"  "_s + QString(228, u'x') + u"AccountData"_s; // 241 bytes
     for (const QString& good : {u"  ShopAccountData"_s, u"WindowData"_s, u"  ..TransData"_s, u"  Café ☕TransData"_s,
                                 longest})
         EXPECT_EQ(bookFilePath(books, good).path, books + u'/' + good) << good.toStdString();
 
     const QString characters = u"a ledger's name can't hold \"/\" or a control character"_s;
-    const QList<std::pair<QString, QString>> refused{
+    const QString tooLong = u"its name is too long for a file name"_s;
+    const std::pair<QString, QString> refused[] = {
         {u"  Shared/xAccountData"_s, characters},
         {u"  ../../../../../v/kTransData"_s, characters},
         {u"  a"_s + QChar(0) + u"bTransData"_s, characters},
@@ -51,8 +35,8 @@ TEST_F(FileStoreTest, AFilesPathIsMadeInsideBooksOnly)
         {u".."_s, u"\"..\" can't name a file"_s},
         {u"."_s, u"\".\" can't name a file"_s},
         {u""_s, u"\"\" can't name a file"_s},
-        {longest + u'x', u"its name is too long for a file name"_s},
-        {u"  "_s + QString(120, u'é') + u"TransData"_s, u"its name is too long for a file name"_s}, // 251 bytes
+        {longest + u'x', tooLong},
+        {u"  "_s + QString(120, u'é') + u"TransData"_s, tooLong}, // 251 bytes
     };
     for (const auto& [name, problem] : refused) {
         const BookFilePath path = bookFilePath(books, name);
@@ -62,8 +46,11 @@ TEST_F(FileStoreTest, AFilesPathIsMadeInsideBooksOnly)
     EXPECT_EQ(bookFilePath(QString(), u"  ShopAccountData"_s).problem, u"there is no folder \"Books\" to keep it in");
 }
 
-TEST_F(FileStoreTest, OnlyPlainFilesAreReadOrWritten)
+TEST(FileStore, OnlyPlainFilesAreReadOrWritten)
 {
+    QTemporaryDir folder;
+    QTemporaryDir outside;
+    const auto at = [&](const QString& name) { return folder.path() + u'/' + name; };
     const QString target = outside.path() + u"/target"_s;
     writeBytes(target, "the books of someone else");
     ASSERT_TRUE(QFile::link(target, at(u"link"_s)));
@@ -71,7 +58,7 @@ TEST_F(FileStoreTest, OnlyPlainFilesAreReadOrWritten)
     ASSERT_EQ(::mkfifo(QFile::encodeName(at(u"pipe"_s)).constData(), 0600), 0);
     ASSERT_TRUE(QDir().mkdir(at(u"folder"_s)));
 
-    const QList<std::pair<QString, QString>> entries{
+    const std::pair<QString, QString> entries[] = {
         {u"link"_s, u"a link"_s}, {u"zero"_s, u"a link"_s}, {u"pipe"_s, u"a named pipe"_s}, {u"folder"_s, u"a folder"_s}};
     for (const auto& [name, what] : entries) {
         const QString expected = u"\"%1\" is %2, not a plain file"_s.arg(at(name), what);
@@ -84,19 +71,19 @@ TEST_F(FileStoreTest, OnlyPlainFilesAreReadOrWritten)
     }
     EXPECT_EQ(readBytes(target), "the books of someone else");
     EXPECT_TRUE(QFileInfo(at(u"link"_s)).isSymLink());
-    EXPECT_EQ(this->entries().size(), 4) << "nothing was left beside them";
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot).size(),
+              4) << "nothing was left beside them";
 
-    // A device itself, not a link to one.
     EXPECT_EQ(readPlainFile(u"/dev/null"_s).problem, u"\"/dev/null\" is a device, not a plain file");
-    // No file: nothing, and no problem.
     const FileContent missing = readPlainFile(at(u"missing"_s));
     EXPECT_FALSE(missing.bytes);
-    EXPECT_EQ(missing.problem, u"");
+    EXPECT_EQ(missing.problem, u"") << "no file is no problem";
 }
 
-TEST_F(FileStoreTest, ASaveKeepsTheFilesPermissionsAndReadsBackByteForByte)
+TEST(FileStore, ASaveKeepsTheFilesPermissionsAndReadsBackByteForByte)
 {
-    const QString path = at(u"  ShopTransData"_s);
+    QTemporaryDir folder;
+    const QString path = folder.path() + u"/  ShopTransData"_s;
     writeBytes(path, "old");
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0600), 0);
     QByteArray bytes(300 * 1024, 'x');
@@ -107,22 +94,23 @@ TEST_F(FileStoreTest, ASaveKeepsTheFilesPermissionsAndReadsBackByteForByte)
     struct stat entry {};
     ASSERT_EQ(::stat(QFile::encodeName(path).constData(), &entry), 0);
     EXPECT_EQ(entry.st_mode & 07777, 0600u);
-    EXPECT_EQ(entries(), QStringList{u"  ShopTransData"_s});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"  ShopTransData"_s});
 }
 
-TEST_F(FileStoreTest, LeftoversOfKilledSavesGoAtTheNextSaveOrStart)
+TEST(FileStore, LeftoversOfKilledSavesGoAtTheNextSaveOrStart)
 {
     TempDataHome home;
     home.makeFolders();
     const QString books = home.books();
-    auto leftover = [](const QString& path) { writeBytes(path, "half a ledger"); };
-    leftover(books + u"/  ShopTransData.saving-AbC123"_s);
-    leftover(books + u"/  ShopAccountData.saving-Xy9876"_s);
-    leftover(books + u"/  ShopTransData.saving-Live01"_s);
-    leftover(books + u"/  ShopTransData.saving-abc"_s); // not the mark of a save
-    leftover(home.quillmark() + u"/BookList.saving-Qq1234"_s);
-    leftover(home.path() + u"/Quillmark Preferences.saving-Pp1234"_s);
-    leftover(home.path() + u"/Other Program.saving-Oo1234"_s); // not ours
+    for (const QString& leftover : {books + u"/  ShopTransData.saving-AbC123"_s,
+                                    books + u"/  ShopAccountData.saving-Xy9876"_s,
+                                    books + u"/  ShopTransData.saving-Live01"_s,
+                                    books + u"/  ShopTransData.saving-abc"_s, // not the mark of a save
+                                    home.quillmark() + u"/BookList.saving-Qq1234"_s,
+                                    home.path() + u"/Quillmark Preferences.saving-Pp1234"_s,
+                                    home.path() + u"/Other Program.saving-Oo1234"_s}) // not ours
+        writeBytes(leftover, "half a ledger");
     // A save still running in another process holds its file locked.
     const int live = ::open(QFile::encodeName(books + u"/  ShopTransData.saving-Live01"_s).constData(), O_RDONLY);
     ASSERT_GE(live, 0);

@@ -8,43 +8,33 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(Startup, MakesTheFoldersOnceAndKeepsWhatIsThere)
+TEST(Startup, MakesTheFoldersOnceKeepsWhatIsThereAndGivesOldLedgerFilesTheirTwoBlanks)
 {
     TempDataHome home;
     EXPECT_EQ(AppFolders::applicationData(), home.path());
     EXPECT_EQ(AppFolders::existingBooks(home.path()), u"");
-
-    EXPECT_EQ(AppFolders::makeFolders(home.path()), home.books());
-    writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@\n");
-    EXPECT_EQ(AppFolders::makeFolders(home.path()), home.books()) << "a second start creates nothing";
-    EXPECT_EQ(readBytes(home.books() + u"/  ShopAccountData"_s), QByteArray("@#@Balance@#@\n"));
-
-    // A file where the folder should be: no folder, and no complaint.
-    TempDataHome blocked;
-    writeBytes(blocked.path() + u"/Quillmark"_s, "not a folder");
-    EXPECT_EQ(AppFolders::makeFolders(blocked.path()), u"");
-}
-
-TEST(Startup, GivesOldLedgerFileNamesTheirTwoBlanks)
-{
-    TempDataHome home;
-    home.makeFolders();
     const QString books = home.books();
+    EXPECT_EQ(AppFolders::makeFolders(home.path()), books);
     writeBytes(books + u"/ShopAccountData"_s, "shop accounts");
+    EXPECT_EQ(AppFolders::makeFolders(home.path()), books) << "a second start creates nothing";
+
     writeBytes(books + u"/  HomeTransData"_s, "home");
     writeBytes(books + u"/ OneBlanktransdata"_s, "one");
     writeBytes(books + u"/WindowData"_s, "window");
     writeBytes(books + u"/CafeTransData"_s, "old");
     writeBytes(books + u"/  CafeTransData"_s, "new"); // the new name is taken
     QDir(books).mkdir(u"ArchiveAccountData"_s);
-
     AppFolders::renameOldLedgerFiles(books);
-    const QStringList names = QDir(books).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
-    EXPECT_EQ(names, (QStringList{u"   OneBlanktransdata"_s, u"  ArchiveAccountData"_s, u"  CafeTransData"_s,
-                                  u"  HomeTransData"_s, u"  ShopAccountData"_s, u"CafeTransData"_s, u"WindowData"_s}));
+    EXPECT_EQ(QDir(books).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name),
+              (QStringList{u"   OneBlanktransdata"_s, u"  ArchiveAccountData"_s, u"  CafeTransData"_s,
+                           u"  HomeTransData"_s, u"  ShopAccountData"_s, u"CafeTransData"_s, u"WindowData"_s}));
     EXPECT_EQ(readBytes(books + u"/  ShopAccountData"_s), QByteArray("shop accounts"));
     EXPECT_EQ(readBytes(books + u"/  CafeTransData"_s), QByteArray("new")) << "nothing is overwritten";
-    EXPECT_EQ(readBytes(books + u"/CafeTransData"_s), QByteArray("old"));
+
+    // A file where the folder should be: no folder, and no complaint.
+    TempDataHome blocked;
+    writeBytes(blocked.path() + u"/Quillmark"_s, "not a folder");
+    EXPECT_EQ(AppFolders::makeFolders(blocked.path()), u"");
 }
 
 TEST(Preferences, ReadsAndWritesOneCountedString)
@@ -54,15 +44,15 @@ TEST(Preferences, ReadsAndWritesOneCountedString)
     prefsDictionary::getPreferences();
     EXPECT_EQ(prefsDictionary::prefsDict().value(u"AccountNumber"_s), u"") << "no file";
 
-    writeBytes(file, QByteArray());
-    prefsDictionary::getPreferences();
-    EXPECT_EQ(prefsDictionary::prefsDict().value(u"AccountNumber"_s), u"") << "a file of length 0";
-
     prefsDictionary::prefsDict().insert(u"AccountNumber"_s, u"4929 1234 €"_s);
     prefsDictionary::savePreferences();
     EXPECT_EQ(readBytes(file), QByteArray("\x0d" "4929 1234 \xE2\x82\xAC"));
     prefsDictionary::getPreferences();
     EXPECT_EQ(prefsDictionary::prefsDict().value(u"AccountNumber"_s), u"4929 1234 €");
+
+    writeBytes(file, QByteArray());
+    prefsDictionary::getPreferences();
+    EXPECT_EQ(prefsDictionary::prefsDict().value(u"AccountNumber"_s), u"") << "a file of length 0";
 
     // 254 bytes and a three-byte character: the character doesn't fit and goes whole.
     prefsDictionary::prefsDict().insert(u"AccountNumber"_s, QString(254, u'1') + u"€"_s);

@@ -8,20 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QList<QStringList> fieldsOf(const RecordList& list)
+// Each record: the line it starts on, then its fields.
+QList<QStringList> recordsOf(const RecordList& list)
 {
     QList<QStringList> all;
     for (const Record& record : list.records)
-        all << record.fields;
+        all << QStringList{QString::number(record.line)} + record.fields;
     return all;
-}
-
-QList<int> linesOf(const RecordList& list)
-{
-    QList<int> lines;
-    for (const Record& record : list.records)
-        lines << record.line;
-    return lines;
 }
 
 } // namespace
@@ -43,21 +36,16 @@ TEST(ImportTextTest, RecordsAsRfc4180HasThem)
                                         "\r\n"
                                         "last,"_s,
                                         u',');
-    EXPECT_EQ(fieldsOf(list), (QList<QStringList>{{u"a"_s, u"b,c"_s, u"say \"hi\""_s},
-                                                   {u"two\nlines"_s, u"x\"y"_s},
-                                                   {u""_s},
-                                                   {u"last"_s, u""_s}}));
-    EXPECT_EQ(linesOf(list), (QList<int>{1, 2, 4, 5})) << "where each record starts";
+    EXPECT_EQ(recordsOf(list), (QList<QStringList>{{u"1"_s, u"a"_s, u"b,c"_s, u"say \"hi\""_s},
+                                                    {u"2"_s, u"two\nlines"_s, u"x\"y"_s},
+                                                    {u"4"_s, u""_s},
+                                                    {u"5"_s, u"last"_s, u""_s}}));
     EXPECT_EQ(list.unclosedQuoteLine, 0);
-
     EXPECT_TRUE(readRecords(u""_s, u',').records.empty());
     EXPECT_EQ(readRecords(u"one\n"_s, u',').records.size(), 1u) << "a final line break begins no record";
-    EXPECT_EQ(fieldsOf(readRecords(u"a;b,c\tz"_s, u';')), (QList<QStringList>{{u"a"_s, u"b,c\tz"_s}}));
-
-    const RecordList open = readRecords(u"ok,1\nbad,\"never\nclosed\n"_s, u',');
-    EXPECT_EQ(open.unclosedQuoteLine, 2);
-    const RecordList binary = readRecords(u"ok\nx\u0000y"_s, u',');
-    EXPECT_EQ(binary.nulLine, 2);
+    EXPECT_EQ(recordsOf(readRecords(u"a;b,c\tz"_s, u';')), (QList<QStringList>{{u"1"_s, u"a"_s, u"b,c\tz"_s}}));
+    EXPECT_EQ(readRecords(u"ok,1\nbad,\"never\nclosed\n"_s, u',').unclosedQuoteLine, 2);
+    EXPECT_EQ(readRecords(u"ok\nx\u0000y"_s, u',').nulLine, 2);
 }
 
 TEST(ImportTextTest, TheSeparatorIsTheOneTheLinesAgreeOn)

@@ -12,21 +12,6 @@ namespace {
 
 class TransactionImportTest : public ::testing::Test {
 protected:
-    // Date, text, amount; one header line and one summary line to skip.
-    TransactionImportTest()
-    {
-        mapping.separator = u';';
-        mapping.skipFirst = 1;
-        mapping.skipLast = 1;
-        mapping.accountColumn = 0;
-        mapping.typeColumn = 0;
-        mapping.fixedAccount = u"Rent"_s;
-        mapping.dateColumn = 1;
-        mapping.descriptionColumn = 2;
-        mapping.amountColumn = 3;
-        mapping.dateOrder = DateOrder::DayMonthYear;
-    }
-
     ImportPlan plan(const QByteArray& file) const { return planImport(file, mapping, ledger); }
 
     static QStringList rowsOf(const ImportPlan& plan)
@@ -38,7 +23,10 @@ protected:
         return rows;
     }
 
-    ImportMapping mapping;
+    // Date, text, amount; one header line and one summary line to skip.
+    ImportMapping mapping{.separator = u';', .skipLast = 1, .accountColumn = 0, .fixedAccount = u"Rent"_s,
+                          .typeColumn = 0, .dateColumn = 1, .amountColumn = 3, .descriptionColumn = 2,
+                          .dateOrder = DateOrder::DayMonthYear};
     Listbox ledger{u"transBox"_s, TransCol::Count};
 };
 
@@ -68,16 +56,13 @@ TEST_F(TransactionImportTest, RecordsBecomeRowsAndBlankOrContinuationLinesArePas
                                   "07.03.2014;Refund;0,00;Office;3,50\n08.03.2014;Nothing;;  Office ;\n");
     EXPECT_EQ(rowsOf(split), (QStringList{u"2|Office|2014-03-05|Paper|-12.00"_s, u"3|Bank|2014-03-06|Fee|0"_s,
                                           u"4|Office|2014-03-07|Refund|3.50"_s, u"5|Office|2014-03-08|Nothing|"_s}));
+    EXPECT_EQ(plan("h\n05.03.2014;a;1,00;x;2,00\n").refusal,
+              u"line 2: both the debit \"1.00\" and the credit \"2.00\" hold an amount");
 }
 
 TEST_F(TransactionImportTest, AnyRecordThatCantBeReadRefusesTheWholeFileNamingItsLine)
 {
-    struct Case {
-        const char* name;
-        QByteArray file;
-        const char16_t* refusal;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, QByteArray, const char16_t*> cases[] = {
         {"an unreal date", "h\n05.03.2014;a;1\n32.03.2014;b;2\nt\n", u"line 3: \"32.03.2014\" is not a date in the order day-month-year"},
         {"an amount with letters", "h\n05.03.2014;a;12abc\nt\n", u"line 2: \"12abc\" is not an amount"},
         {"a ragged record", "h\n05.03.2014;a\nt\n", u"line 2: the record has 2 fields, but column 3 is mapped"},
@@ -88,19 +73,13 @@ TEST_F(TransactionImportTest, AnyRecordThatCantBeReadRefusesTheWholeFileNamingIt
         {"headings only", "h\nt\n", u"There is nothing to import after the lines skipped."},
         {"blank lines only", "h\n\n;;\nt\n", u"The file holds no transaction to import."},
     };
-    for (const Case& c : cases) {
-        const ImportPlan refused = plan(c.file);
-        EXPECT_EQ(refused.refusal, QStringView(c.refusal).toString()) << c.name;
-        EXPECT_TRUE(refused.rows.empty()) << c.name;
+    for (const auto& [name, file, refusal] : cases) {
+        const ImportPlan refused = plan(file);
+        EXPECT_EQ(refused.refusal, QStringView(refusal).toString()) << name;
+        EXPECT_TRUE(refused.rows.empty()) << name;
     }
     mapping.decimalMark = DecimalMark::Comma;
     EXPECT_EQ(plan("h\n05.03.2014;a;1,234.56\nt\n").refusal, u"line 2: \"1,234.56\" is not an amount");
-    mapping.decimalMark = DecimalMark::Auto;
-    mapping.amountColumn = 0;
-    mapping.debitColumn = 3;
-    mapping.creditColumn = 4;
-    EXPECT_EQ(plan("h\n05.03.2014;a;1,00;2,00\nt\n").refusal,
-              u"line 2: both the debit \"1.00\" and the credit \"2.00\" hold an amount");
 }
 
 TEST_F(TransactionImportTest, DuplicatesMatchLedgerRowsOneToOne)
@@ -121,21 +100,14 @@ TEST_F(TransactionImportTest, DuplicatesMatchLedgerRowsOneToOne)
                                           u"4|Rent|2014-03-05|march|-800"_s, u"5|Rent|2014-03-05|March|-80"_s}));
 }
 
-TEST_F(TransactionImportTest, TheMappingNeedsADateAndOneKindOfAmount)
+TEST(TransactionImport, TheMappingNeedsADateAndOneKindOfAmount)
 {
-    EXPECT_EQ(mappingProblem(mapping), u"");
-    ImportMapping noDate = mapping;
-    noDate.dateColumn = 0;
-    EXPECT_FALSE(mappingProblem(noDate).isEmpty());
-    ImportMapping noAmount = mapping;
-    noAmount.amountColumn = 0;
-    EXPECT_FALSE(mappingProblem(noAmount).isEmpty());
-    ImportMapping both = mapping;
-    both.debitColumn = 4;
-    both.creditColumn = 5;
-    EXPECT_FALSE(mappingProblem(both).isEmpty());
-    both.amountColumn = 0;
-    EXPECT_EQ(mappingProblem(both), u"");
-    both.creditColumn = 0;
-    EXPECT_FALSE(mappingProblem(both).isEmpty()) << "a debit column alone";
+    // The date, amount, debit and credit columns, and whether they can be used.
+    const std::tuple<int, int, int, int, bool> cases[] = {
+        {1, 3, 0, 0, true}, {0, 3, 0, 0, false}, {1, 0, 0, 0, false},
+        {1, 3, 4, 5, false}, {1, 0, 4, 5, true}, {1, 0, 4, 0, false}};
+    for (const auto& [date, amount, debit, credit, usable] : cases) {
+        const ImportMapping mapping{.dateColumn = date, .amountColumn = amount, .debitColumn = debit, .creditColumn = credit};
+        EXPECT_EQ(mappingProblem(mapping).isEmpty(), usable) << date << amount << debit << credit;
+    }
 }
