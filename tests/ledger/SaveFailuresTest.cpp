@@ -165,5 +165,6 @@ TEST_F(SaveFailuresTest, OneOperationTellsOnceThoughBothFilesFailAndARenameKeeps
     EXPECT_EQ(books->theLedger, u"  Shop");
     EXPECT_EQ(snapshot(), before) << "the files of the old name stay, none of the new";
     ASSERT_EQ(platform.messages.size(), 2);
-    EXPECT_EQ(platform.messages[0], u"Quillmark couldn't save the ledger \"Shop\": No space left on device."_s + kLedgerKept);
+    EXPECT_EQ(platform.messages[0],
+              u"Quillmark couldn't save the ledger \"Shop\": No space left on device."_s + kLedgerKept);
 }
