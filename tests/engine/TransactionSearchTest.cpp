@@ -39,16 +39,12 @@ TEST(TransactionSearch, FindsPlainTextInEveryColumnIgnoringCase)
         {u"kelvin"_s, {0}},              // the Kelvin sign folds to "k"
         {u"monthly"_s, {1}},             // the repeat word
         {u"38765"_s, {1, 2}},            // digits hit the seconds
-        {u"2026-11-0"_s, {0, 1, 2}},
         {u"été"_s, {2}},                 // case ignored beyond ASCII
         {u"CAFÉ"_s, {2}},
         {u"ſales"_s, {0}},               // the long s folds to "s"
-        {u"TILL"_s, {0}},
         {u".*"_s, {2}},                  // plain text, no pattern
-        {u"(flat)"_s, {1}},
         {u"a@b"_s, {2}},
         {u"Till@#@"_s, {}},              // never across two cells
-        {u"@#@"_s, {}},
         {u"@"_s, {2}},
         {u"hidden"_s, {}},               // the cell past the last column isn't searched
         {u""_s, {}},                     // an empty text is in no cell

@@ -13,14 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kNameInUse = u"That account name is already in use. Please enter a different name."_s;
-
 class AccountRulesTest : public ::testing::Test {
 protected:
     AccountRulesTest() { books.LedgerList.SetListIndex(0); }
-
-    QString accountsPath() const { return home.books() + u"/  ShopAccountData"_s; }
-    QString transPath() const { return home.books() + u"/  ShopTransData"_s; }
 
     // "  Shop" with the Base Account, a revenue and an expense account;
     // "  Empty" without files. Written before the books read the list.
@@ -28,19 +23,19 @@ protected:
     {
         home.makeFolders();
         writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n  Empty\n");
-        writeBytes(accountsPath(), "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"
-                                   "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n"
-                                   "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(transPath(), "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
-                                "@#@Rent@#@2026-01-04@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
-                                "@#@SALES@#@2026-01-05@#@till@#@@#@5@#@0@#@5@#@@#@@#@@#@Never@#@\n");
+        writeBytes(accountsPath, "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"
+                                 "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n"
+                                 "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n");
+        writeBytes(transPath, "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
+                              "@#@Rent@#@2026-01-04@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
+                              "@#@SALES@#@2026-01-05@#@till@#@@#@5@#@0@#@5@#@@#@@#@@#@Never@#@\n");
         return true;
     }
 
-    static AccountFields fields(const QString& name, const QString& type = u"Expense"_s, const QString& opening = {},
-                                const QString& notes = {})
+    QString save(const QString& name, const QString& type = u"Expense"_s, const QString& opening = {},
+                 const QString& notes = {}, bool checkName = true, int row = -1, const QString& oldName = {})
     {
-        return AccountFields{name, type, opening, notes};
+        return AccountOperations(books).saveAccount(AccountFields{name, type, opening, notes}, checkName, row, oldName);
     }
 
     QStringList column(const Listbox& table, int col) const
@@ -52,6 +47,8 @@ protected:
     }
 
     TempDataHome home;
+    const QString accountsPath = home.books() + u"/  ShopAccountData"_s;
+    const QString transPath = home.books() + u"/  ShopTransData"_s;
     ScriptedPlatform platform;
     bool written = writeLedgers();
     SummaryBooks books{home.books()};
@@ -61,47 +58,44 @@ protected:
 
 TEST_F(AccountRulesTest, ARefusedAccountChangesNothing)
 {
-    const QByteArray accounts = readBytes(accountsPath());
-    const QByteArray transactions = readBytes(transPath());
+    const QByteArray accounts = readBytes(accountsPath);
+    const QByteArray transactions = readBytes(transPath);
     // Any row counts, the Base Account too, in any letter case; so does the
     // edited row's own name when the name was typed at all.
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"cash"_s), true, -1, {}), kNameInUse);
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"RENT"_s), true, -1, {}), kNameInUse);
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"rent"_s), true, 2, u"Rent"_s), kNameInUse);
-    // Text that would break a row of the files.
-    for (const AccountFields& breaking : {fields(u"Tips@#@Jar"_s), fields(u"Tips"_s, u"Expense"_s, u"1\n2"_s),
-                                          fields(u"Tips"_s, u"Expense"_s, {}, u"line\rbreak"_s),
-                                          fields(u"Tips@#"_s) /* runs into the separator after it */})
-        EXPECT_TRUE(AccountOperations(books).saveAccount(breaking, true, -1, {}).startsWith(u"An account can't hold the text \"@#@\""));
-    EXPECT_FALSE(AccountOperations(books).saveAccount(fields(u"Rent@#@"_s), false, 2, u"Rent"_s).isEmpty()) << "also with no name check";
+    const QString inUse = u"That account name is already in use. Please enter a different name."_s;
+    EXPECT_EQ(save(u"cash"_s), inUse);
+    EXPECT_EQ(save(u"RENT"_s), inUse);
+    EXPECT_EQ(save(u"rent"_s, u"Expense"_s, {}, {}, true, 2, u"Rent"_s), inUse);
+    // Text that would break a row of the files; "@#" runs into the separator after it.
+    for (const QString& breaking : {save(u"Tips@#@Jar"_s), save(u"Tips"_s, u"Expense"_s, u"1\n2"_s),
+                                    save(u"Tips"_s, u"Expense"_s, {}, u"line\rbreak"_s), save(u"Tips@#"_s),
+                                    save(u"Rent@#@"_s, u"Expense"_s, {}, {}, false, 2, u"Rent"_s)})
+        EXPECT_TRUE(breaking.startsWith(u"An account can't hold the text \"@#@\"")) << breaking.toStdString();
 
-    EXPECT_EQ(books.accountsBox.ListCount(), 3);
     EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Sales"_s, u"Rent"_s}));
     EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"Rent");
-    EXPECT_EQ(readBytes(accountsPath()), accounts);
-    EXPECT_EQ(readBytes(transPath()), transactions);
+    EXPECT_EQ(readBytes(accountsPath), accounts);
+    EXPECT_EQ(readBytes(transPath), transactions);
     EXPECT_TRUE(platform.messages.isEmpty()) << "the caller shows the refusal";
 }
 
 TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
 {
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Tips"_s, u"Revenue"_s, {}, u"jar by the till"_s), true, -1, {}), u"");
-    EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Number), u"999");
-    EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Type), u"Revenue");
+    EXPECT_EQ(save(u"Tips"_s, u"Revenue"_s, {}, u"jar by the till"_s), u"");
     EXPECT_EQ(books.accountsBox.Cell(3, AccountCol::Opening), u"0.00") << "an empty opening";
     EXPECT_EQ(books.accountsBox.rowPicture(3), RowPicture::accountPlus9);
-    EXPECT_TRUE(readBytes(accountsPath()).endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar by the till@#@\n"));
+    EXPECT_TRUE(readBytes(accountsPath).endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar by the till@#@\n"));
 
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Fuel"_s, u"Expense"_s, u"12.5"_s), true, -1, {}), u"");
+    EXPECT_EQ(save(u"Fuel"_s, u"Expense"_s, u"12.5"_s), u"");
     EXPECT_EQ(books.accountsBox.rowPicture(4), RowPicture::accountMinus9);
-    EXPECT_TRUE(readBytes(accountsPath()).endsWith("999@#@Fuel@#@Expense@#@12.5@#@0@#@12.5@#@@#@\n"))
+    EXPECT_TRUE(readBytes(accountsPath).endsWith("999@#@Fuel@#@Expense@#@12.5@#@0@#@12.5@#@@#@\n"))
         << "the opening as typed; the balance from the calculation";
 
     // The first account of an empty ledger gets the book; the next one its type's.
     books.LedgerList.SetListIndex(1);
     ASSERT_EQ(books.accountsBox.ListCount(), 0);
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Balance"_s, u""_s, u"250"_s), true, -1, {}), u"");
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Wages"_s, u"Revenue"_s), true, -1, {}), u"");
+    EXPECT_EQ(save(u"Balance"_s, u""_s, u"250"_s), u"");
+    EXPECT_EQ(save(u"Wages"_s, u"Revenue"_s), u"");
     EXPECT_EQ(books.accountsBox.rowPicture(0), RowPicture::BookIcon);
     EXPECT_EQ(books.accountsBox.rowPicture(1), RowPicture::accountPlus9);
     EXPECT_EQ(readBytes(home.books() + u"/  EmptyAccountData"_s),
@@ -111,20 +105,19 @@ TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
 
 TEST_F(AccountRulesTest, EditingRenamesTheTransactionsAndKeepsTheRowInPlace)
 {
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Takings"_s, u"Revenue"_s, {}, u"the till"_s), true, 1, u"Sales"_s), u"");
+    EXPECT_EQ(save(u"Takings"_s, u"Revenue"_s, {}, u"the till"_s, true, 1, u"Sales"_s), u"");
     EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Takings"_s, u"Rent"_s}));
-    EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Number), u"");
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Opening), u"0.00") << "an empty opening after the calculation";
     EXPECT_EQ(column(books.transBox, TransCol::Account), (QStringList{u"Takings"_s, u"Rent"_s, u"Takings"_s}))
         << "its transactions in any letter case";
-    EXPECT_TRUE(readBytes(accountsPath()).contains("\n@#@Takings@#@Revenue@#@@#@15@#@15@#@the till@#@\n"));
-    EXPECT_EQ(readBytes(transPath()).count("@#@Takings@#@"), 2);
+    EXPECT_TRUE(readBytes(accountsPath).contains("\n@#@Takings@#@Revenue@#@@#@15@#@15@#@the till@#@\n"));
+    EXPECT_EQ(readBytes(transPath).count("@#@Takings@#@"), 2);
 
     // An edit that leaves the name alone still gives the transactions its spelling.
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"Rent"_s), false, 2, u"rent"_s), u"");
-    EXPECT_EQ(AccountOperations(books).saveAccount(fields(u"RENT"_s), false, 2, u"Rent"_s), u"");
+    EXPECT_EQ(save(u"Rent"_s, u"Expense"_s, {}, {}, false, 2, u"rent"_s), u"");
+    EXPECT_EQ(save(u"RENT"_s, u"Expense"_s, {}, {}, false, 2, u"Rent"_s), u"");
     EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"RENT");
-    EXPECT_TRUE(readBytes(transPath()).contains("@#@RENT@#@2026-01-04@#@"));
+    EXPECT_TRUE(readBytes(transPath).contains("@#@RENT@#@2026-01-04@#@"));
 }
 
 TEST_F(AccountRulesTest, DeletingTakesTheRowsAndRecalculates)
@@ -142,6 +135,5 @@ TEST_F(AccountRulesTest, DeletingTakesTheRowsAndRecalculates)
     platform.answerNextDialog(MessageDialog::Button::Action);
     TransactionOperations(books).deleteSelectedTransactions();
     EXPECT_EQ(books.transBox.ListCount(), 0);
-    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Balance), u"100.00");
-    EXPECT_TRUE(readBytes(accountsPath()).startsWith("@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"));
+    EXPECT_TRUE(readBytes(accountsPath).startsWith("@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"));
 }

@@ -28,38 +28,29 @@ protected:
     BookFilesTest()
     {
         home.makeFolders();
-        writeBytes(bookList(), "  Shop\n");
+        writeBytes(bookList, "  Shop\n");
         writeBytes(book(u"  ShopAccountData"_s), "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n");
         writeBytes(book(u"  ShopTransData"_s), "@#@Sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@false@#@Never@#@\n");
     }
 
-    QString bookList() const { return home.quillmark() + u"/BookList"_s; }
     QString book(const QString& name) const { return home.books() + u'/' + name; }
 
-    // Every entry below a folder, with the bytes of the files.
-    static QMap<QString, QByteArray> tree(const QString& folder)
+    // Every entry below the data folder, with the bytes of the files.
+    QMap<QString, QByteArray> tree() const
     {
         QMap<QString, QByteArray> entries;
-        QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+        QDirIterator it(home.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                         QDirIterator::Subdirectories);
         while (it.hasNext()) {
-            it.next();
-            const QFileInfo info = it.fileInfo();
-            entries.insert(QDir(folder).relativeFilePath(it.filePath()),
-                           info.isSymLink() ? "-> " + info.symLinkTarget().toUtf8()
-                                            : info.isFile() ? readBytes(it.filePath()) : "(entry)");
+            const QFileInfo info = it.nextFileInfo();
+            entries.insert(info.filePath(), info.isSymLink() ? "-> " + info.symLinkTarget().toUtf8()
+                                                : info.isFile() ? readBytes(info.filePath()) : "(entry)");
         }
         return entries;
     }
 
-    void selectLedger(SummaryBooks& books, const QString& name) const
-    {
-        for (int row = 0; row < books.LedgerList.ListCount(); ++row)
-            if (books.LedgerList.Cell(row, 0) == name)
-                books.LedgerList.SetListIndex(row);
-    }
-
     TempDataHome home;
+    const QString bookList = home.quillmark() + u"/BookList"_s;
     QTemporaryDir outside;
     ScriptedPlatform platform;
 };
@@ -68,32 +59,24 @@ protected:
 
 TEST_F(BookFilesTest, ABadLineOfTheListStillListsAndOpeningItSaysWhy)
 {
-    ASSERT_TRUE(QDir().mkdir(book(u"  .."_s)));
+    // Through this link a ledger "  Shared/x" would have its files outside the folder.
     ASSERT_TRUE(QFile::link(outside.path(), book(u"  Shared"_s)));
-    const QString escape = u"  ../../../../../../../../../.."_s + outside.path() + u"/k"_s;
-    writeBytes(bookList(), "  Shop\n  Shared/x\n" + escape.toUtf8() + "\n");
-    const QMap<QString, QByteArray> before = tree(home.path());
+    writeBytes(bookList, "  Shop\n  Shared/x\n");
+    const QMap<QString, QByteArray> before = tree();
 
     SummaryBooks books(home.books());
-    EXPECT_EQ(books.LedgerList.ListCount(), 3) << "every line lists";
-    for (const QString& name : {u"  Shared/x"_s, escape}) {
-        platform.messages.clear();
-        selectLedger(books, name);
-        EXPECT_EQ(books.theLedger, name);
-        ASSERT_EQ(platform.messages.size(), 1);
-        EXPECT_TRUE(platform.messages[0].endsWith(u"Quillmark couldn't open the ledger \"%1\": a ledger's name can't "
-                                                  "hold \"/\" or a control character."_s.arg(name.mid(2))))
-            << platform.messages[0].toStdString();
-        // Whatever the user does with it stores nothing anywhere, and says so.
-        platform.messages.clear();
-        EXPECT_EQ(AccountOperations(books).saveAccount(AccountFields{u"Balance"_s, {}, u"5"_s, {}}, true, -1, {}), u"");
-        books.calcAll();
-        EXPECT_EQ(platform.messages.size(), 2);
-        for (const QString& message : platform.messages)
-            EXPECT_TRUE(message.startsWith(u"Quillmark couldn't save the ledger \"%1\": "_s.arg(name.mid(2))));
-    }
+    books.LedgerList.SetListIndex(1);
+    EXPECT_EQ(platform.messages, QStringList{u"Quillmark couldn't open the ledger \"Shared/x\": a ledger's name can't "
+                                             "hold \"/\" or a control character."_s});
+    // Whatever the user does with it stores nothing anywhere, and says so.
+    platform.messages.clear();
+    EXPECT_EQ(AccountOperations(books).saveAccount(AccountFields{u"Balance"_s, {}, u"5"_s, {}}, true, -1, {}), u"");
+    books.calcAll();
+    EXPECT_EQ(platform.messages.size(), 2);
+    for (const QString& message : platform.messages)
+        EXPECT_TRUE(message.startsWith(u"Quillmark couldn't save the ledger \"Shared/x\": "_s));
     books.shelf.saveBooks();
-    EXPECT_EQ(tree(home.path()), before);
+    EXPECT_EQ(tree(), before);
     EXPECT_TRUE(QDir(outside.path()).isEmpty());
 }
 
@@ -103,10 +86,10 @@ TEST_F(BookFilesTest, WhatIsNoPlainFileIsNeitherReadNorWrittenThrough)
     writeBytes(target, "not the ledger");
     QFile::remove(book(u"  ShopTransData"_s));
     ASSERT_TRUE(QFile::link(target, book(u"  ShopTransData"_s)));
-    QFile::remove(bookList());
-    ASSERT_EQ(::mkfifo(QFile::encodeName(bookList()).constData(), 0600), 0);
+    QFile::remove(bookList);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(bookList).constData(), 0600), 0);
     ASSERT_TRUE(QDir().mkdir(home.path() + u"/Quillmark Preferences"_s));
-    const QMap<QString, QByteArray> before = tree(home.path());
+    const QMap<QString, QByteArray> before = tree();
 
     // None of these waits for a pipe's writer or reads through the link.
     prefsDictionary::getPreferences();
@@ -115,7 +98,7 @@ TEST_F(BookFilesTest, WhatIsNoPlainFileIsNeitherReadNorWrittenThrough)
     books.LedgerList.AddRow(u"  Shop"_s);
     books.LedgerList.SetListIndex(0);
     EXPECT_EQ(books.transBox.ListCount(), 0);
-    const QString pipe = u"\"%1\" is a named pipe, not a plain file"_s.arg(bookList());
+    const QString pipe = u"\"%1\" is a named pipe, not a plain file"_s.arg(bookList);
     const QString folder = u"\"%1/Quillmark Preferences\" is a folder, not a plain file"_s.arg(home.path());
     const QString link = u"\"%1\" is a link, not a plain file"_s.arg(book(u"  ShopTransData"_s));
     EXPECT_EQ(platform.messages, (QStringList{u"Quillmark couldn't read its preferences: %1."_s.arg(folder),
@@ -129,7 +112,7 @@ TEST_F(BookFilesTest, WhatIsNoPlainFileIsNeitherReadNorWrittenThrough)
     EXPECT_EQ(platform.messages.size(), 3);
     for (const QString& message : platform.messages)
         EXPECT_TRUE(message.contains(u"isn't written over")) << message.toStdString();
-    EXPECT_EQ(tree(home.path()), before);
+    EXPECT_EQ(tree(), before);
     EXPECT_EQ(readBytes(target), "not the ledger");
 }
 
@@ -140,7 +123,6 @@ TEST_F(BookFilesTest, TheFolderBooksItselfMayBeALink)
     ASSERT_TRUE(QFile::link(real, home.books()));
     SummaryBooks books(home.books());
     books.LedgerList.SetListIndex(0);
-    ASSERT_EQ(books.transBox.ListCount(), 1);
     books.calcAll();
     EXPECT_TRUE(platform.messages.isEmpty()) << platform.messages.join(u'\n').toStdString();
     EXPECT_TRUE(readBytes(real + u"/  ShopAccountData"_s).startsWith("@#@Cash@#@@#@100.00@#@10@#@110@#@@#@\n"));
@@ -155,8 +137,7 @@ TEST_F(BookFilesTest, AFileThatCouldntBeReadIsNotWrittenOver)
         const FailingReads badBlock(u"  ShopTransData"_s);
         books.LedgerList.SetListIndex(0);
     }
-    EXPECT_EQ(platform.messages,
-              QStringList{u"Quillmark couldn't open the ledger \"Shop\": Input/output error."_s});
+    EXPECT_EQ(platform.messages, QStringList{u"Quillmark couldn't open the ledger \"Shop\": Input/output error."_s});
     EXPECT_EQ(books.transBox.ListCount(), 0);
 
     // The table shows nothing of the file; storing it would empty the ledger.

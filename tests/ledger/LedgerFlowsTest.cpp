@@ -1,10 +1,10 @@
+#include "engine/RowLayouts.h"
 #include "ledger/SummaryBooks.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
 #include <QDir>
 #include <QMap>
-#include <QSignalBlocker>
 
 #include <gtest/gtest.h>
 
@@ -14,17 +14,20 @@ namespace {
 
 using Folder = QMap<QString, QByteArray>;
 
-// Two ledgers on disk, as a user left them.
+// Two ledgers on disk, as a user left them, and a stray file of a third name.
 class LedgerFlowsTest : public ::testing::Test {
 protected:
-    LedgerFlowsTest()
+    // Written before the books read the list.
+    bool writeLedgers() const
     {
         home.makeFolders();
-        writeBytes(bookList(), "  Shop\n  Home\n");
+        writeBytes(bookList(), "Shop\r\n\r\n  Home\n\n");
         writeBook(u"  ShopAccountData"_s, "999@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@@#@\n");
         writeBook(u"  ShopTransData"_s, "7@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n");
         writeBook(u"  HomeAccountData"_s, "@#@Balance@#@@#@50.00@#@0@#@50@#@@#@\n");
         writeBook(u"  HomeTransData"_s, "");
+        writeBook(u"  OrphanTransData"_s, "@#@someone else's@#@\n");
+        return true;
     }
 
     QString bookList() const { return home.quillmark() + u"/BookList"_s; }
@@ -34,14 +37,13 @@ protected:
     // Everything in the folder "Quillmark", byte for byte.
     Folder snapshot() const
     {
-        Folder files;
-        files.insert(u"BookList"_s, readBytes(bookList()));
+        Folder files{{u"BookList"_s, readBytes(bookList())}};
         for (const QString& name : QDir(home.books()).entryList(QDir::Files))
             files.insert(name, readBytes(book(name)));
         return files;
     }
 
-    QStringList ledgerNames(const SummaryBooks& books) const
+    QStringList ledgerNames() const
     {
         QStringList names;
         for (int row = 0; row < books.LedgerList.ListCount(); ++row)
@@ -50,7 +52,7 @@ protected:
     }
 
     // The user edits the selected ledger's cell in place.
-    void renameSelected(SummaryBooks& books, const QString& text) const
+    void renameSelected(const QString& text)
     {
         const int row = books.LedgerList.ListIndex();
         books.LedgerList.userBeganEdit(row, 0);
@@ -60,51 +62,33 @@ protected:
 
     TempDataHome home;
     ScriptedPlatform platform;
+    bool written = writeLedgers();
+    SummaryBooks books{home.books()};
 };
 
 } // namespace
 
-TEST_F(LedgerFlowsTest, ReadsTheListWithNoLedgerOpen)
+TEST_F(LedgerFlowsTest, OpeningAndSwitchingStoreOnlyTheLedgerLeft)
 {
-    writeBytes(bookList(), "Shop\r\n\r\n  Home\n\n");
-    SummaryBooks books(home.books());
-    EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s}));
+    EXPECT_EQ(ledgerNames(), (QStringList{u"  Shop"_s, u"  Home"_s})) << "blank lines skipped, the blanks put before";
     EXPECT_EQ(books.LedgerList.rowPicture(0), RowPicture::Book_Icon32);
-    EXPECT_EQ(books.LedgerList.ListIndex(), -1);
-    EXPECT_EQ(books.accountsBox.ListCount(), 0);
-
-    books.shelf.saveBooks();
-    EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n")) << "the blanks are written back";
-}
-
-TEST_F(LedgerFlowsTest, SelectingTouchesNoFileWhenNoneWasOpen)
-{
     const Folder before = snapshot();
-    SummaryBooks books(home.books());
+    books.accountsBox.AddRow(u""_s);
+    books.calcAll();
+    EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Transactions), u"") << "no ledger open: nothing calculated";
     books.LedgerList.SetListIndex(0);
-
+    EXPECT_EQ(snapshot(), before) << "nothing stored";
     EXPECT_EQ(books.theLedger, u"  Shop");
-    EXPECT_EQ(books.accountsBox.ListCount(), 2);
     EXPECT_EQ(books.accountsBox.Cell(0, 0), u"") << "column 0 starts empty after a load";
     ASSERT_EQ(books.transBox.ListCount(), 1);
-    EXPECT_EQ(books.transBox.Cell(0, 3), u"Sale");
     EXPECT_TRUE(books.transBox.CellCheck(0, 1)) << "reconcile boxes come from the stored column";
     EXPECT_EQ(books.transBox.ListIndex(), -1);
     EXPECT_EQ(books.accountsBox.ListIndex(), -1);
-    EXPECT_EQ(snapshot(), before);
-}
 
-TEST_F(LedgerFlowsTest, SwitchingStoresTheLedgerLeft)
-{
-    SummaryBooks books(home.books());
-    books.LedgerList.SetListIndex(0);
     books.accountsBox.SetCell(1, 6, u"a note");         // saved on leaving
     books.transBox.SetCell(0, 3, u"changed on screen"); // put back from the file first
-
     books.LedgerList.SetListIndex(1);
-    EXPECT_EQ(books.theLedger, u"  Home");
     EXPECT_EQ(books.oldLedger, u"  Shop");
-    EXPECT_EQ(books.accountsBox.Cell(0, 1), u"Balance");
     EXPECT_EQ(books.accountsBox.Cell(0, 3), u"50.00");
     EXPECT_EQ(books.transBox.ListCount(), 0);
     EXPECT_EQ(readBytes(book(u"  ShopAccountData"_s)),
@@ -116,52 +100,41 @@ TEST_F(LedgerFlowsTest, SwitchingStoresTheLedgerLeft)
     writeBook(u"  HomeTransData"_s, "\n\n");
     books.LedgerList.SetListIndex(0);
     EXPECT_EQ(readBytes(book(u"  HomeTransData"_s)), QByteArray("\n\n"));
+    books.shelf.saveBooks();
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n"));
 }
 
-TEST_F(LedgerFlowsTest, RenameSavesUnderTheNewNameAndRemovesTheOldFiles)
+TEST_F(LedgerFlowsTest, RenameMovesTheFilesOrTouchesNone)
 {
-    SummaryBooks books(home.books());
-    books.LedgerList.SetListIndex(0);
-    const QByteArray accounts = readBytes(book(u"  ShopAccountData"_s));
-
-    renameSelected(books, u"Store"_s); // typed without the blanks
-    EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Store");
-    EXPECT_EQ(books.theLedger, u"  Store");
-    EXPECT_EQ(readBytes(bookList()), QByteArray("  Store\n  Home\n"));
-    EXPECT_FALSE(fileExists(book(u"  ShopAccountData"_s)));
-    EXPECT_FALSE(fileExists(book(u"  ShopTransData"_s)));
-    EXPECT_EQ(readBytes(book(u"  StoreAccountData"_s)), accounts.mid(3)) << "as loaded: without the \"999\"";
-    EXPECT_TRUE(readBytes(book(u"  StoreTransData"_s)).contains("Sale"));
-
-    // Unchanged text, or only another case: stored again, nothing deleted.
-    renameSelected(books, u"  Store"_s);
-    renameSelected(books, u"  STORE"_s);
-    EXPECT_TRUE(fileExists(book(u"  StoreAccountData"_s)));
-    EXPECT_TRUE(fileExists(book(u"  STOREAccountData"_s)));
-    EXPECT_EQ(readBytes(bookList()), QByteArray("  STORE\n  Home\n"));
-    EXPECT_TRUE(platform.messages.isEmpty());
-}
-
-TEST_F(LedgerFlowsTest, RefusedRenamesTouchNoFile)
-{
-    writeBook(u"  OrphanTransData"_s, "@#@someone else's@#@\n");
-    SummaryBooks books(home.books());
     books.LedgerList.SetListIndex(0);
     const Folder before = snapshot();
-
     for (const QString& name : {u""_s, u"   "_s, u"  home"_s, u"a/b"_s, u"tab\there"_s, u"Orphan"_s, QString(250, u'x')}) {
-        renameSelected(books, name);
+        renameSelected(name);
         EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Shop") << name.toStdString();
         EXPECT_EQ(books.theLedger, u"  Shop");
         EXPECT_EQ(snapshot(), before) << name.toStdString();
     }
     EXPECT_EQ(platform.messages.size(), 7);
-    EXPECT_EQ(platform.messages[2], u"That ledger name is already in use. Please enter a different name.");
+
+    renameSelected(u"Store"_s); // typed without the blanks
+    EXPECT_EQ(books.theLedger, u"  Store");
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  Store\n  Home\n"));
+    EXPECT_FALSE(fileExists(book(u"  ShopAccountData"_s)));
+    EXPECT_FALSE(fileExists(book(u"  ShopTransData"_s)));
+    EXPECT_EQ(readBytes(book(u"  StoreAccountData"_s)), before[u"  ShopAccountData"_s].mid(3)) << "without the \"999\"";
+    EXPECT_TRUE(readBytes(book(u"  StoreTransData"_s)).contains("Sale"));
+
+    // Unchanged text, or only another case: stored again, nothing deleted.
+    renameSelected(u"  Store"_s);
+    renameSelected(u"  STORE"_s);
+    EXPECT_TRUE(fileExists(book(u"  StoreAccountData"_s)));
+    EXPECT_TRUE(fileExists(book(u"  STOREAccountData"_s)));
+    EXPECT_EQ(readBytes(bookList()), QByteArray("  STORE\n  Home\n"));
+    EXPECT_EQ(platform.messages.size(), 7);
 }
 
 TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
 {
-    SummaryBooks books(home.books());
     books.shelf.deleteLedger();
     EXPECT_TRUE(platform.dialogs.empty()) << "no ledger selected: nothing happens";
 
@@ -169,17 +142,11 @@ TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
     const Folder before = snapshot();
     books.shelf.deleteLedger(); // answered Cancel
     ASSERT_EQ(platform.dialogs.size(), 1u);
-    const MessageDialog& asked = platform.dialogs[0];
-    EXPECT_EQ(asked.Message, u"Are you sure you want to delete the Ledger and all of it's accounts and transactions?");
-    EXPECT_EQ(asked.Explanation, u"This action cannot be undone.");
-    EXPECT_EQ(asked.ActionButton, u"Delete");
-    EXPECT_EQ(asked.CancelButton, u"Cancel");
     EXPECT_EQ(snapshot(), before);
-    EXPECT_EQ(books.theLedger, u"  Shop");
 
     platform.answerNextDialog(MessageDialog::Button::Action);
     books.shelf.deleteLedger();
-    EXPECT_EQ(ledgerNames(books), QStringList{u"  Home"_s});
+    EXPECT_EQ(ledgerNames(), QStringList{u"  Home"_s});
     EXPECT_EQ(books.theLedger, u"");
     EXPECT_FALSE(books.deletingOn);
     EXPECT_FALSE(books.delLedger);
@@ -199,16 +166,19 @@ TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
 
 TEST_F(LedgerFlowsTest, NewLedgerOpensEmptyAfterStoringTheOneLeft)
 {
-    SummaryBooks books(home.books());
     books.LedgerList.SetListIndex(0);
     writeBook(u"  ShopTransData"_s, "@#@Sales@#@2014-03-09@#@From the file@#@\n");
+    const Folder before = snapshot();
+    for (const QString& name : {u""_s, u"shop"_s, u"Home"_s, u"x/y"_s})
+        EXPECT_FALSE(books.shelf.addLedger(name)) << name.toStdString();
+    EXPECT_EQ(platform.messages.size(), 4);
+    EXPECT_EQ(books.theLedger, u"  Shop");
+    EXPECT_EQ(snapshot(), before);
 
     ASSERT_TRUE(books.shelf.addLedger(u"Garden"_s));
-    EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s, u"  Garden"_s}));
-    EXPECT_EQ(books.LedgerList.ListIndex(), 2);
+    EXPECT_EQ(ledgerNames(), (QStringList{u"  Shop"_s, u"  Home"_s, u"  Garden"_s}));
     EXPECT_EQ(books.LedgerList.rowPicture(2), RowPicture::Book_Icon32);
     EXPECT_EQ(books.theLedger, u"  Garden");
-    EXPECT_EQ(books.oldLedger, u"  Shop");
     EXPECT_EQ(books.accountsBox.ListCount(), 0);
     EXPECT_EQ(books.transBox.ListCount(), 0);
     // The transactions left were put back from their file and stored; the
@@ -216,32 +186,15 @@ TEST_F(LedgerFlowsTest, NewLedgerOpensEmptyAfterStoringTheOneLeft)
     EXPECT_TRUE(readBytes(book(u"  ShopTransData"_s)).contains("From the file"));
     EXPECT_TRUE(fileExists(book(u"  ShopAccountData"_s)));
     EXPECT_FALSE(fileExists(book(u"  GardenAccountData"_s)));
-
-    books.shelf.saveBooks();
-    EXPECT_EQ(readBytes(bookList()), QByteArray("  Shop\n  Home\n  Garden\n"));
-}
-
-TEST_F(LedgerFlowsTest, NewLedgerWithANameThatCantBeUsedChangesNothing)
-{
-    SummaryBooks books(home.books());
-    books.LedgerList.SetListIndex(1);
-    const Folder before = snapshot();
-    for (const QString& name : {u""_s, u"shop"_s, u"Home"_s, u"x/y"_s}) {
-        EXPECT_FALSE(books.shelf.addLedger(name)) << name.toStdString();
-    }
-    EXPECT_EQ(platform.messages.size(), 4);
-    EXPECT_EQ(ledgerNames(books), (QStringList{u"  Shop"_s, u"  Home"_s}));
-    EXPECT_EQ(books.theLedger, u"  Home");
-    EXPECT_EQ(snapshot(), before);
 }
 
 TEST_F(LedgerFlowsTest, NothingIsReadOrWrittenWithoutABooksFolder)
 {
-    SummaryBooks books(QString{});
-    EXPECT_EQ(books.LedgerList.ListCount(), 0);
     const Folder before = snapshot();
-    ASSERT_TRUE(books.shelf.addLedger(u"Loose"_s));
-    books.shelf.saveBooks();
-    books.calcAll();
+    SummaryBooks loose(QString{});
+    EXPECT_EQ(loose.LedgerList.ListCount(), 0);
+    ASSERT_TRUE(loose.shelf.addLedger(u"Loose"_s));
+    loose.shelf.saveBooks();
+    loose.calcAll();
     EXPECT_EQ(snapshot(), before);
 }
