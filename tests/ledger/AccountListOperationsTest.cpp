@@ -98,3 +98,11 @@ TEST_F(AccountListOperationsTest, DeletingLinesTakesTheirRowsAndLowersTheLinksAf
         << "both tables stored once more after the calculation, as shown";
     EXPECT_TRUE(readBytes(home.books() + u"/  ShopAccountData"_s).contains("@#@Rent@#@Expense@#@0.00@#@-40.00@#@"));
 }
+
+TEST_F(AccountListOperationsTest, ALinkFallsByOneForASingleRowRemovedBelowIt)
+{
+    list.setSelectedRows({1});
+    platform.answerNextDialog(MessageDialog::Button::Action);
+    EXPECT_TRUE(TransactionOperations(books).deleteAccountListLines(list));
+    EXPECT_EQ(cells(list, AccountListCol::Link), (QStringList{u"0"_s, u"2"_s}));
+}

@@ -11,6 +11,7 @@
 #include "support/ScriptedPlatform.h"
 
 #include <QDir>
+#include <QFile>
 #include <QRect>
 
 #include <gtest/gtest.h>
@@ -167,4 +168,18 @@ TEST_F(SaveFailuresTest, OneOperationTellsOnceThoughBothFilesFailAndARenameKeeps
     ASSERT_EQ(platform.messages.size(), 2);
     EXPECT_EQ(platform.messages[0],
               u"Quillmark couldn't save the ledger \"Shop\": No space left on device."_s + kLedgerKept);
+}
+
+TEST_F(SaveFailuresTest, ARenameWhoseListCantBeSavedTakesBackTheFilesOfTheNewName)
+{
+    const auto books = openShop();
+    const QString list = home.quillmark() + u"/BookList"_s;
+    ASSERT_TRUE(QFile::remove(list) && QDir().mkdir(list)); // a folder where the list should be written
+    books->LedgerList.userBeganEdit(0, 0);
+    books->LedgerList.userEditedCell(0, 0, u"Store"_s);
+    books->LedgerList.userEndedEdit(0, 0);
+    EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
+    EXPECT_TRUE(fileExists(home.books() + u"/  ShopTransData"_s));
+    EXPECT_FALSE(fileExists(home.books() + u"/  StoreTransData"_s));
+    EXPECT_FALSE(fileExists(home.books() + u"/  StoreAccountData"_s));
 }
