@@ -3,6 +3,7 @@
 #include "update/BuildVersion.h"
 #include "update/VersionCheck.h"
 
+#include <QCoreApplication>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
@@ -14,6 +15,9 @@ VersionCheckSocket::VersionCheckSocket(QObject* parent)
         if (reply)
             reply->abort(); // ends as cancelled: no answer
     });
+    // Quitting drops a running request too, before the file could stay half written.
+    if (QCoreApplication* application = QCoreApplication::instance())
+        connect(application, &QCoreApplication::aboutToQuit, this, &VersionCheckSocket::drop);
 }
 
 VersionCheckSocket::~VersionCheckSocket()
