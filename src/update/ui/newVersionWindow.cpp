@@ -1,6 +1,7 @@
 #include "update/ui/newVersionWindow.h"
 
 #include "platform/BlockingServices.h"
+#include "platform/Picture.h"
 #include "update/Server.h"
 
 #include <QGuiApplication>
@@ -21,7 +22,7 @@ newVersionWindow::newVersionWindow(const QString& offer, QWidget* parent)
     setWindowModality(Qt::ApplicationModal);
 
     Canvas1 = new QLabel(this);
-    Canvas1->setPixmap(QPixmap(u":/pictures/bookIcon64.png"_s));
+    Canvas1->setPixmap(QPixmap::fromImage(Picture::resourceImage(u"bookIcon64"_s)));
     Canvas1->setAccessibleName(u"Quillmark"_s);
     StaticText1 = new QLabel(offer, this);
     StaticText1->setWordWrap(true);
