@@ -1,5 +1,6 @@
 #include "app/SplashWindow.h"
 
+#include "platform/Picture.h"
 #include "update/Server.h"
 #include "update/StartupGlobals.h"
 #include "update/VersionCheckSocket.h"
@@ -22,7 +23,7 @@ SplashWindow::SplashWindow()
     setFixedSize(428, 168);
 
     Canvas1 = new QLabel(this);
-    Canvas1->setPixmap(QPixmap(u":/pictures/bookIcon128.png"_s));
+    Canvas1->setPixmap(QPixmap::fromImage(Picture::resourceImage(u"bookIcon128"_s)));
     Canvas1->setFixedSize(128, 128);
     AppNameLabel = new QLabel(u"App Name"_s, this);
     AppNameLabel->setAlignment(Qt::AlignCenter);

@@ -101,6 +101,8 @@ SummaryWindow::SummaryWindow(SummaryDialogs dialogs, QWidget* parent)
     separatorFld = new QLineEdit(central);
     separatorFld->setObjectName(u"separatorFld"_s);
     separatorFld->setGeometry(-1000, -1000, 100, 22);
+    // Hidden, so that neither Tab nor a screen reader finds it.
+    separatorFld->hide();
     setCentralWidget(central);
 
     buildMenuBar();
@@ -129,6 +131,7 @@ QWidget* SummaryWindow::buildLedgerColumn(QWidget* parent)
     LedgerListView->setDefaultRowHeight(kLedgerListRowHeight);
     LedgerListView->setIconSize(QSize(32, 32));
     LedgerListView->setCellLook([](int, int, bool selected) { return SummaryColours::ledgerCell(selected); });
+    LedgerListView->setAccessibleName(u"Ledgers"_s);
     layout->addWidget(LedgerListView, 1);
 
     auto* buttons = new QHBoxLayout;
@@ -136,6 +139,9 @@ QWidget* SummaryWindow::buildLedgerColumn(QWidget* parent)
     PushButton3->setObjectName(u"PushButton3"_s);
     PushButton4 = new QPushButton(u"-"_s, column);
     PushButton4->setObjectName(u"PushButton4"_s);
+    // "+" and "-" say little when read aloud.
+    PushButton3->setAccessibleName(u"New ledger"_s);
+    PushButton4->setAccessibleName(u"Delete ledger"_s);
     for (QPushButton* button : {PushButton3, PushButton4}) {
         button->setFixedWidth(32);
         buttons->addWidget(button);
@@ -168,6 +174,7 @@ void SummaryWindow::buildAccountsRegion(QWidget* parent)
     accountsBoxView->setCellLook([this](int row, int, bool selected) {
         return SummaryColours::accountsCell(books_.accountsBox, row, selected);
     });
+    accountsBoxView->setAccessibleName(StaticText1->text());
     layout->addWidget(accountsBoxView, 1);
 
     // The headings can't be pressed: the accounts keep the order the user gave them.
@@ -194,6 +201,9 @@ void SummaryWindow::buildTransactionsRegion(QWidget* parent)
                              u"Delete selected transaction"_s);
     editTransBtn = iconButton(GroupBox2, u"editTransBtn"_s, QSize(36, 36), u"editpng_32x32"_s,
                               u"Edit selected transaction"_s);
+    addtransbtn->setAccessibleName(u"Add transaction"_s);
+    deltransbtn->setAccessibleName(deltransbtn->toolTip());
+    editTransBtn->setAccessibleName(editTransBtn->toolTip());
     for (AutoButton* button : {addtransbtn, deltransbtn, editTransBtn})
         buttons->addWidget(button);
     top->addLayout(buttons, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
@@ -210,6 +220,7 @@ void SummaryWindow::buildTransactionsRegion(QWidget* parent)
     transBoxView->setSortable(true);
     transBoxView->setRowsReorderable(true);
     transBoxView->setCellLook([](int row, int, bool) { return SummaryColours::transCell(row); });
+    transBoxView->setAccessibleName(StaticText2->text());
     layout->addWidget(transBoxView, 1);
 }
 
@@ -248,6 +259,11 @@ QWidget* SummaryWindow::buildSearchField(QWidget* parent)
     endSearch->move(158, 5);
     endSearch->hide();
     endSearch->raise();
+    for (QWidget* search : {static_cast<QWidget*>(EditField1), static_cast<QWidget*>(EditField11),
+                            static_cast<QWidget*>(Canvas7), static_cast<QWidget*>(Canvas71)})
+        search->setAccessibleName(u"Search"_s);
+    endSearch->setAccessibleName(u"End search"_s);
+    endSearch1->setAccessibleName(u"End search"_s);
     return spot;
 }
 

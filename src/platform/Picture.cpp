@@ -1,5 +1,7 @@
 #include "platform/Picture.h"
 
+#include <QGuiApplication>
+
 using namespace Qt::StringLiterals;
 
 Picture::Picture(int width, int height, int /*depth*/)
@@ -22,9 +24,26 @@ Graphics& Picture::Graphics()
     return *graphics_;
 }
 
+qreal Picture::screenRatio()
+{
+    return qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+}
+
+QImage Picture::resourceImage(const QString& name, qreal ratio)
+{
+    if (ratio > 1) {
+        QImage twice(u":/pictures/"_s + name + u"@2x.png"_s);
+        if (!twice.isNull()) {
+            twice.setDevicePixelRatio(2);
+            return twice;
+        }
+    }
+    return QImage(u":/pictures/"_s + name + u".png"_s);
+}
+
 PictureRef Picture::named(const QString& name)
 {
-    QImage image(u":/pictures/"_s + name + u".png"_s);
+    QImage image = resourceImage(name);
     if (image.isNull())
         return nullptr;
     return std::make_shared<Picture>(std::move(image));

@@ -24,9 +24,16 @@ public:
     // The picture of the application's resources by its name ("addpng_32x32"),
     // or null when there is none.
     static std::shared_ptr<Picture> named(const QString& name);
+    // The resource picture "name.png" for screens of ratio device pixels per
+    // point. Above 1 it is the twice-size "name@2x.png" where there is one, marked
+    // with its ratio, so it takes the same room and stays sharp.
+    static QImage resourceImage(const QString& name, qreal ratio = screenRatio());
+    // The highest ratio of the application's screens; 1 without an application.
+    static qreal screenRatio();
 
-    int Width() const { return image_.width(); }
-    int Height() const { return image_.height(); }
+    // The size in points, whatever the pixels.
+    int Width() const { return qRound(image_.deviceIndependentSize().width()); }
+    int Height() const { return qRound(image_.deviceIndependentSize().height()); }
     const QImage& image() const { return image_; }
     QImage& image() { return image_; }
     // The picture's drawing surface: one for the picture's whole life, so a

@@ -69,6 +69,10 @@ AccountWindow::AccountWindow(SummaryBooks& books, QWidget* parent)
     buttons->addWidget(PushButton1);
     layout->addLayout(buttons, 4, 0, 1, 4);
     showTypePicture();
+    StaticText1->setBuddy(EditField1);
+    StaticText4->setBuddy(EditField3);
+    StaticText2->setBuddy(EditField4);
+    setTabOrder(PushButton2, PushButton1);
 
     EditField4->installEventFilter(this);
     connect(EditField1, &QLineEdit::textChanged, this, &AccountWindow::EditField1_TextChange);

@@ -56,8 +56,10 @@ TransactionWindow::TransactionWindow(SummaryBooks& books, QWidget* parent)
     Canvas1 = named(new AutoButton(this), u"Canvas1"_s);
     Canvas1->setGeometry(62, 28, 67, 68);
     Canvas1->setBackdrop(Picture::named(u"bookIcon64"_s));
+    Canvas1->setAccessibleName(u"Add with GST"_s);
     CalendarControl1 = named(new CalendarControl(this), u"CalendarControl1"_s);
     CalendarControl1->setGeometry(28, 119, 135, 143);
+    CalendarControl1->setAccessibleName(u"Date"_s);
 
     StaticText1 = fieldLabel(this, u"StaticText1"_s, u"Account Name:"_s, 18);
     PopupMenu1 = named(new QComboBox(this), u"PopupMenu1"_s);
@@ -99,6 +101,12 @@ TransactionWindow::TransactionWindow(SummaryBooks& books, QWidget* parent)
     PushButton1->setGeometry(425, 266, 80, 28);
     PushButton1->setDefault(true);
     PushButton1->setEnabled(false);
+    const std::pair<QLabel*, QWidget*> buddies[] = {{StaticText1, PopupMenu1}, {StaticText2, EditField1},
+                                                    {StaticText3, EditField5}, {StaticText4, EditField3},
+                                                    {StaticText5, EditField4}, {StaticText6, EditField6},
+                                                    {StaticText7, PopupMenu2}};
+    for (const auto& [label, field] : buddies)
+        label->setBuddy(field);
 
     // Event_Open
     whichWindow = this;

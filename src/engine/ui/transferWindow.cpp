@@ -47,6 +47,9 @@ transferWindow::transferWindow(SummaryBooks& books, QWidget* parent)
     PushButton1 = named(new QPushButton(u"OK"_s, this), u"PushButton1"_s);
     PushButton1->setGeometry(479, 262, 80, 28);
     PushButton1->setDefault(true);
+    ListBox1->setAccessibleName(u"Transfer From"_s);
+    ListBox2->setAccessibleName(u"Transfer To"_s);
+    StaticText3->setBuddy(EditField1);
 
     Timer1 = new QTimer(this);
     Timer1->setSingleShot(true);

@@ -114,9 +114,15 @@ CustomImportWindow::CustomImportWindow(const Listbox& accounts, const Listbox& t
     layout->addWidget(FileLabel);
     auto* reading = new QHBoxLayout;
     reading->addWidget(SeparatorMenu);
-    reading->addWidget(new QLabel(u"Skip first:"_s, this));
+    auto* skipFirstLabel = new QLabel(u"Skip first:"_s, this);
+    skipFirstLabel->setBuddy(SkipFirst);
+    reading->addWidget(skipFirstLabel);
     reading->addWidget(SkipFirst);
-    reading->addWidget(new QLabel(u"last:"_s, this));
+    auto* skipLastLabel = new QLabel(u"last:"_s, this);
+    skipLastLabel->setBuddy(SkipLast);
+    // "last" alone says too little out of its line.
+    SkipLast->setAccessibleName(u"Skip last"_s);
+    reading->addWidget(skipLastLabel);
     reading->addWidget(SkipLast);
     reading->addWidget(DateOrderMenu);
     reading->addWidget(DecimalMenu);
@@ -130,7 +136,9 @@ CustomImportWindow::CustomImportWindow(const Listbox& accounts, const Listbox& t
     };
     columns->addWidget(named(new QLabel(u"Column #:"_s, this), u"StaticText7"_s), 1, 0);
     for (int i = 0; i < int(std::size(fields)); ++i) {
-        columns->addWidget(new QLabel(fields[i].first, this), 0, i + 1, Qt::AlignCenter);
+        auto* heading = new QLabel(fields[i].first, this);
+        heading->setBuddy(fields[i].second);
+        columns->addWidget(heading, 0, i + 1, Qt::AlignCenter);
         columns->addWidget(fields[i].second, 1, i + 1, Qt::AlignCenter);
     }
     columns->addWidget(AccountMenu, 1, int(std::size(fields)) + 1);
@@ -143,6 +151,14 @@ CustomImportWindow::CustomImportWindow(const Listbox& accounts, const Listbox& t
     buttons->addWidget(PushButton2);
     buttons->addWidget(PushButton1);
     layout->addLayout(buttons);
+    Preview->setAccessibleName(u"Preview"_s);
+    // Tab follows the lines as they read, left to right.
+    QWidget* const readingOrder[] = {SeparatorMenu, SkipFirst, SkipLast, DateOrderMenu, DecimalMenu,
+                                     EditField31,   EditField1, EditField2, EditField5,  DebitField,
+                                     CreditField,   EditField3, AccountMenu, Preview,    PushButton2,
+                                     PushButton1};
+    for (size_t i = 1; i < std::size(readingOrder); ++i)
+        setTabOrder(readingOrder[i - 1], readingOrder[i]);
 
     for (QLineEdit* field : {EditField31, EditField1, EditField2, EditField5, DebitField, CreditField, EditField3})
         connect(field, &QLineEdit::textChanged, this, &CustomImportWindow::updatePreview);

@@ -17,6 +17,8 @@ void layOutOneFieldDialog(QDialog& dialog, QLabel* label, QLineEdit* field, QPus
     buttons->addWidget(cancel);
     buttons->addWidget(ok);
     layout->addLayout(buttons, 1, 0, 1, 2);
+    label->setBuddy(field);
+    QWidget::setTabOrder(cancel, ok);
 }
 
 void makeSheet(QDialog& dialog, const QString& name, const QString& title, QSize size)

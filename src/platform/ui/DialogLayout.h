@@ -21,5 +21,6 @@ W* named(W* widget, const QString& name)
 void makeSheet(QDialog& dialog, const QString& name, const QString& title, QSize size);
 
 // The small dialogs that ask for one text: the label and the field on a line, the
-// buttons below at the right, OK last.
+// buttons below at the right, OK last. The label names the field to assistive
+// tools, and Tab goes from Cancel to OK as they stand.
 void layOutOneFieldDialog(QDialog& dialog, QLabel* label, QLineEdit* field, QPushButton* ok, QPushButton* cancel);

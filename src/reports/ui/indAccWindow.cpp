@@ -29,6 +29,7 @@ AutoButton* iconButton(QWidget* parent, const QString& name, const QString& pict
     auto* button = named(new AutoButton(parent), name);
     button->setBackdrop(Picture::named(picture));
     button->setToolTip(tip);
+    button->setAccessibleName(tip);
     return button;
 }
 
@@ -75,6 +76,9 @@ indAccWindow::indAccWindow(SummaryBooks& books, std::function<::TransactionWindo
     Label3 = named(new QLabel(this), u"Label3"_s);
     PushButton3 = named(new QPushButton(u"OK"_s, this), u"PushButton3"_s);
     placeControls();
+    ListBox1->setAccessibleName(u"Transactions"_s);
+    Label1->setBuddy(DateControl1);
+    Label2->setBuddy(DateControl2);
 
     connect(PushButton1, &QPushButton::clicked, this, &indAccWindow::PushButton1_Action);
     connect(PushButton2, &QPushButton::clicked, this, &indAccWindow::PushButton2_Action);

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolButton>
 
 #include <cmath>
 
@@ -53,10 +54,16 @@ ledgerWindow::ledgerWindow(const Listbox& accounts, const Listbox& transactions,
     Canvas1->setFixedSize(40, 40);
     Canvas1->setBackdrop(Picture::named(u"printer"_s));
     Canvas1->setToolTip(u"Print"_s);
+    Canvas1->setAccessibleName(u"Print"_s);
+    StaticText1->setBuddy(PopupMenu1);
+    TextField1->setAccessibleName(u"Year"_s);
+    UpDownArrows1->upButton()->setAccessibleName(u"Next year"_s);
+    UpDownArrows1->downButton()->setAccessibleName(u"Previous year"_s);
 
     setUpLedgerReport(ledgerboxTable);
     ledgerbox = named(new ListboxView(ledgerboxTable, this), u"ledgerbox"_s);
     ledgerbox->applyColumnSettings();
+    ledgerbox->setAccessibleName(u"Ledger"_s);
     ledgerbox->setDefaultRowHeight(20);
     ledgerbox->setCellLook([this](int row, int, bool) {
         CellLook look;

@@ -1,5 +1,7 @@
 #include "update/ui/AboutWindow.h"
 
+#include "platform/Picture.h"
+
 #include <QGuiApplication>
 #include <QLabel>
 #include <QScreen>
@@ -14,7 +16,7 @@ AboutWindow::AboutWindow()
     setFixedSize(322, 235);
 
     Canvas1 = new QLabel(this);
-    Canvas1->setPixmap(QPixmap(u":/pictures/bookIcon64.png"_s));
+    Canvas1->setPixmap(QPixmap::fromImage(Picture::resourceImage(u"bookIcon64"_s)));
     Canvas1->setFixedSize(65, 68);
     Canvas1->setAlignment(Qt::AlignCenter);
     StaticText1 = new QLabel(u"App Name"_s, this);

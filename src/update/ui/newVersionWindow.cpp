@@ -1,6 +1,7 @@
 #include "update/ui/newVersionWindow.h"
 
 #include "platform/BlockingServices.h"
+#include "platform/Picture.h"
 #include "update/Server.h"
 
 #include <QGuiApplication>
@@ -21,13 +22,14 @@ newVersionWindow::newVersionWindow(const QString& offer, QWidget* parent)
     setWindowModality(Qt::ApplicationModal);
 
     Canvas1 = new QLabel(this);
-    Canvas1->setPixmap(QPixmap(u":/pictures/bookIcon64.png"_s));
+    Canvas1->setPixmap(QPixmap::fromImage(Picture::resourceImage(u"bookIcon64"_s)));
     Canvas1->setAccessibleName(u"Quillmark"_s);
     StaticText1 = new QLabel(offer, this);
     StaticText1->setWordWrap(true);
+    // Made in the order they stand, which is the order Tab takes.
+    PushButton2 = new QPushButton(u"Download Later"_s, this);
     PushButton1 = new QPushButton(u"Download Now"_s, this);
     PushButton1->setDefault(true);
-    PushButton2 = new QPushButton(u"Download Later"_s, this);
     connect(PushButton1, &QPushButton::clicked, this, &newVersionWindow::PushButton1_Action);
     connect(PushButton2, &QPushButton::clicked, this, &newVersionWindow::PushButton2_Action);
 
@@ -41,7 +43,6 @@ newVersionWindow::newVersionWindow(const QString& offer, QWidget* parent)
     buttons->addWidget(PushButton1);
     column->addLayout(buttons);
     layout->addLayout(column, 1);
-    setTabOrder(PushButton2, PushButton1);
 
     if (const QScreen* screen = QGuiApplication::primaryScreen())
         move(screen->availableGeometry().center() - rect().center());
