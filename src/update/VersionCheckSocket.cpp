@@ -47,8 +47,7 @@ void VersionCheckSocket::Get(const QString& url, const QString& path)
 
 void VersionCheckSocket::receive()
 {
-    const QByteArray bytes = reply->read(bodyLimit - file.size());
-    writeFailed = writeFailed || file.write(bytes) != bytes.size();
+    store(*reply);
     if (file.size() >= bodyLimit) {
         cut = true;
         reply->abort(); // finished follows at once
@@ -61,8 +60,8 @@ void VersionCheckSocket::end()
     QNetworkReply* finished = reply;
     reply = nullptr;
     finished->deleteLater();
-    if (!cut && finished->bytesAvailable() > 0)
-        receiveRest(*finished);
+    if (!cut)
+        store(*finished);
     const bool written = !writeFailed && file.flush();
     file.close();
     if (answered(*finished) && written)
@@ -73,9 +72,9 @@ void VersionCheckSocket::end()
     Q_EMIT requestEnded();
 }
 
-void VersionCheckSocket::receiveRest(QNetworkReply& finished)
+void VersionCheckSocket::store(QNetworkReply& from)
 {
-    const QByteArray bytes = finished.read(bodyLimit - file.size());
+    const QByteArray bytes = from.read(bodyLimit - file.size());
     writeFailed = writeFailed || file.write(bytes) != bytes.size();
 }
 

@@ -39,7 +39,8 @@ Q_SIGNALS:
 
 private:
     void receive();
-    void receiveRest(QNetworkReply& finished);
+    // Writes what has come of the body, up to bodyLimit, to the file.
+    void store(QNetworkReply& from);
     bool answered(const QNetworkReply& finished) const;
     void end();
     void drop();
