@@ -191,48 +191,84 @@ FileProblem replaceFile(const QString& path, const QByteArray& bytes)
     return file.commit();
 }
 
-FileContent readPlainFile(const QString& path)
+PlainFileReader::PlainFileReader(const QString& path)
 {
     const QByteArray name = encoded(path);
     const FileCalls& calls = fileCalls();
     // Not following a link, and not waiting for a writer at a named pipe.
-    const int fd = calls.open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0);
-    if (fd < 0) {
+    fd_ = calls.open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0);
+    if (fd_ < 0) {
         const int error = errno;
-        if (error == ENOENT)
-            return {};
+        missing_ = error == ENOENT;
         struct stat entry {};
+        if (missing_)
+            return;
         if (::lstat(name.constData(), &entry) == 0 && !S_ISREG(entry.st_mode))
-            return {std::nullopt, notPlainReason(path, entry.st_mode)};
-        return {std::nullopt, systemReason(error)};
+            problem_ = notPlainReason(path, entry.st_mode);
+        else
+            problem_ = systemReason(error);
+        return;
     }
-    FileContent content;
     struct stat entry {};
-    if (::fstat(fd, &entry) != 0) {
-        content.problem = systemReason(errno);
-    } else if (const QString reason = notPlainReason(path, entry.st_mode); !reason.isEmpty()) {
-        content.problem = reason;
-    } else {
-        QByteArray bytes;
-        bytes.reserve(qsizetype(entry.st_size));
-        char buffer[64 * 1024];
-        for (;;) {
-            const ssize_t got = calls.read(fd, buffer, sizeof buffer);
-            if (got < 0 && errno == EINTR)
-                continue;
-            if (got < 0) {
-                content.problem = systemReason(errno);
-                break;
-            }
-            if (got == 0) {
-                content.bytes = std::move(bytes);
-                break;
-            }
-            bytes.append(buffer, got);
+    if (::fstat(fd_, &entry) != 0)
+        problem_ = systemReason(errno);
+    else
+        problem_ = notPlainReason(path, entry.st_mode);
+    if (!problem_.isEmpty()) {
+        calls.close(std::exchange(fd_, -1));
+        return;
+    }
+    size_ = qsizetype(entry.st_size);
+}
+
+PlainFileReader::~PlainFileReader()
+{
+    if (fd_ >= 0)
+        fileCalls().close(fd_);
+}
+
+qsizetype PlainFileReader::read(char* into, qsizetype max)
+{
+    if (fd_ < 0 || !problem_.isEmpty())
+        return -1;
+    for (;;) {
+        const ssize_t got = fileCalls().read(fd_, into, size_t(max));
+        if (got >= 0)
+            return got;
+        if (errno != EINTR) {
+            problem_ = systemReason(errno);
+            return -1;
         }
     }
-    calls.close(fd);
-    return content;
+}
+
+bool PlainFileReader::rewind()
+{
+    if (fd_ < 0 || !problem_.isEmpty())
+        return false;
+    if (::lseek(fd_, 0, SEEK_SET) != 0) {
+        problem_ = systemReason(errno);
+        return false;
+    }
+    return true;
+}
+
+FileContent readPlainFile(const QString& path)
+{
+    PlainFileReader file(path);
+    if (!file.isOpen())
+        return {std::nullopt, file.problem()};
+    QByteArray bytes;
+    bytes.reserve(file.size());
+    char buffer[64 * 1024];
+    for (;;) {
+        const qsizetype got = file.read(buffer, sizeof buffer);
+        if (got < 0)
+            return {std::nullopt, file.problem()};
+        if (got == 0)
+            return {std::move(bytes), {}};
+        bytes.append(buffer, got);
+    }
 }
 
 void removeSaveLeftovers(const QString& folder, const std::function<bool(QStringView fileName)>& ours)

@@ -61,6 +61,33 @@ struct FileContent {
 };
 FileContent readPlainFile(const QString& path);
 
+// A plain file read a piece at a time, with the same checks as readPlainFile:
+// for a file too large to hold twice.
+class PlainFileReader {
+public:
+    explicit PlainFileReader(const QString& path);
+    ~PlainFileReader();
+    PlainFileReader(const PlainFileReader&) = delete;
+    PlainFileReader& operator=(const PlainFileReader&) = delete;
+
+    bool missing() const { return missing_; }
+    bool isOpen() const { return fd_ >= 0; }
+    // Why the file can't be read; "" while all goes well.
+    const QString& problem() const { return problem_; }
+    // The file's size when it was opened.
+    qsizetype size() const { return size_; }
+    // Up to max bytes; 0 at the end; -1 once reading failed.
+    qsizetype read(char* into, qsizetype max);
+    // Back to the start, for a second reading.
+    bool rewind();
+
+private:
+    int fd_ = -1;
+    bool missing_ = false;
+    qsizetype size_ = 0;
+    QString problem_;
+};
+
 // Removes the temporary files that killed saves left in a folder, of every file
 // whose name `ours` accepts. The temporary file of a save still running, in
 // this program or another, is left alone.

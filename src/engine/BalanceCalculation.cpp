@@ -8,13 +8,6 @@
 
 #include <vector>
 
-namespace {
-
-// How many rows ahead a pass over the transactions fetches the cells it reads.
-constexpr int kAhead = 16;
-
-} // namespace
-
 BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, bool reconciledOnly)
 {
     const int lastAccount = accounts.ListCount() - 1;
@@ -26,40 +19,40 @@ BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, 
             accounts.SetCell(r, AccountCol::Type, AccountType::Revenue);
     }
 
-    std::vector<double> totals(std::max(lastAccount + 1, 0), 0.0);
+    std::vector<DecimalSum> totals(std::max(lastAccount + 1, 0));
     BalanceTotals result;
     {
         AccountIndex index(accounts);
         for (int t = 0; t < transactions.ListCount(); ++t) {
-            transactions.prefetchCell(t + kAhead, TransCol::Account);
-            transactions.prefetchCell(t + kAhead, TransCol::Transaction);
             if (reconciledOnly && !transactions.CellCheck(t, TransCol::Account))
                 continue;
-            const double amount = readAmount(transactions.CellView(t, TransCol::Transaction));
+            const QStringView amount = transactions.CellView(t, TransCol::Transaction);
             for (int r : index.rowsNamed(transactions.CellView(t, TransCol::Account)))
-                totals[r] += amount;
-            result.tax += readAmount(transactions.CellView(t, TransCol::Tax));
-            result.transactions += amount;
+                totals[r].addAmount(amount);
+            result.tax.addAmount(transactions.CellView(t, TransCol::Tax));
+            result.transactions.addAmount(amount);
         }
     }
 
     for (int r = 1; r <= lastAccount; ++r) {
-        accounts.SetCell(r, AccountCol::Transactions, Str(totals[r]));
-        accounts.SetCell(r, AccountCol::Balance, Str(readAmount(accounts.CellView(r, AccountCol::Opening)) + totals[r]));
+        accounts.SetCell(r, AccountCol::Transactions, totals[r].text());
+        DecimalSum balance = totals[r];
+        balance.addAmount(accounts.CellView(r, AccountCol::Opening));
+        accounts.SetCell(r, AccountCol::Balance, balance.text());
     }
     // The Base Account sums what the accounts show, read back from their cells.
-    double sum = 0;
+    DecimalSum sum;
     for (int r = 1; r <= lastAccount; ++r)
-        sum += readAmount(accounts.CellView(r, AccountCol::Transactions));
-    accounts.SetCell(0, AccountCol::Transactions, Str(sum));
-    accounts.SetCell(0, AccountCol::Balance, Str(readAmount(accounts.CellView(0, AccountCol::Opening)) + sum));
+        sum.addAmount(accounts.CellView(r, AccountCol::Transactions));
+    accounts.SetCell(0, AccountCol::Transactions, sum.text());
+    sum.addAmount(accounts.CellView(0, AccountCol::Opening));
+    accounts.SetCell(0, AccountCol::Balance, sum.text());
     return result;
 }
 
 void writeSeconds(Listbox& transactions)
 {
     for (int t = 0; t < transactions.ListCount(); ++t) {
-        transactions.prefetchCell(t + kAhead, TransCol::Date);
         QDate date;
         if (!ParseDate(transactions.CellView(t, TransCol::Date), date))
             continue;
@@ -138,7 +131,6 @@ void padAmounts(Listbox& accounts, Listbox& transactions)
     // Trimming every total and then padding every total is the same, row by row,
     // as one pass that does both.
     for (int t = 0; t < transactions.ListCount(); ++t) {
-        transactions.prefetchCell(t + kAhead, TransCol::Transaction);
         const QStringView cell = transactions.CellView(t, TransCol::Transaction);
         if (hasOuterBlanks(cell))
             transactions.SetCell(t, TransCol::Transaction, cell.trimmed().toString());
@@ -161,7 +153,6 @@ void showDecimalCommas(Listbox& accounts, Listbox& transactions)
             accounts.SetCell(r, column, cmm(accounts.CellView(r, column)));
     }
     for (int t = 0; t < transactions.ListCount(); ++t) {
-        transactions.prefetchCell(t + kAhead, TransCol::Transaction);
         const QStringView cell = transactions.CellView(t, TransCol::Transaction);
         if (cell.contains(u'.'))
             transactions.SetCell(t, TransCol::Transaction, cmm(cell));

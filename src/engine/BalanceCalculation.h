@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/DecimalSum.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -12,8 +14,8 @@ class Listbox;
 // sums, the screen shows them padded (and with commas on a comma system).
 
 struct BalanceTotals {
-    double tax = 0;          // column Tax over the counted transactions
-    double transactions = 0; // column Transaction over the counted transactions
+    DecimalSum tax;          // column Tax over the counted transactions
+    DecimalSum transactions; // column Transaction over the counted transactions
 };
 
 // Brings old type words up to date and writes Transactions and Balance of every
@@ -22,9 +24,8 @@ struct BalanceTotals {
 // every account whose name equals its account cell, ignoring case; one that
 // belongs to none counts in the totals returned but in no account.
 //
-// One pass over the transactions gives, for every account, the same sum in the
-// same order of additions as scanning all transactions account by account, so
-// the figures are identical to the bit.
+// The sums are exact in decimal (DecimalSum), so the figures are what the
+// amounts add up to, whatever the order of the transactions.
 BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, bool reconciledOnly);
 
 // Column Seconds of every transaction whose date can be read.

@@ -9,9 +9,7 @@ int postDueRepeats(Listbox& transactions, const QDateTime& now)
     const double nowSeconds = TotalSeconds(now);
     const int last = transactions.ListCount() - 1;
     int posted = 0;
-    constexpr int kAhead = 16;
     for (int row = 0; row <= last; ++row) {
-        transactions.prefetchCell(row + kAhead, TransCol::Repeat);
         const QStringView mark = transactions.CellView(row, TransCol::Repeat);
         if (mark.isEmpty() || isWord(mark, u"never"))
             continue;

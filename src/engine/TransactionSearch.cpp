@@ -57,9 +57,7 @@ std::vector<int> findRows(const Listbox& table, QStringView text)
     // so a text without "@" and "#" is found in the line exactly where a cell
     // holds it; any other text is looked for cell by cell.
     const bool wholeLine = !text.contains(u'@') && !text.contains(u'#');
-    constexpr int kAhead = 16;
     for (int row = 0; row < table.ListCount(); ++row) {
-        table.prefetchCell(row + kAhead, 0);
         bool hit = false;
         if (wholeLine) {
             hit = holds(table.storedLine(row));

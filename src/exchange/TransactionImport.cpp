@@ -231,10 +231,9 @@ ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, con
     return plan;
 }
 
-std::vector<Listbox::Row> transactionRows(const std::vector<ImportedRow>& rows, bool skipDuplicates)
+Listbox::Rows transactionRows(const std::vector<ImportedRow>& rows, bool skipDuplicates)
 {
-    std::vector<Listbox::Row> made;
-    made.reserve(rows.size());
+    Listbox::Rows made(TransCol::Count);
     for (const ImportedRow& row : rows) {
         if (skipDuplicates && row.duplicate)
             continue;
@@ -243,7 +242,7 @@ std::vector<Listbox::Row> transactionRows(const std::vector<ImportedRow>& rows, 
         cells[TransCol::Date] = row.date;
         cells[TransCol::Description] = row.description;
         cells[TransCol::Transaction] = row.amount;
-        made.emplace_back(cells, TransCol::Count, TransCol::Count);
+        made.add(cells, TransCol::Count);
     }
     return made;
 }

@@ -88,4 +88,4 @@ ImportPlan planImport(const QByteArray& bytes, const ImportMapping& mapping, con
 
 // The plan's rows as transBox rows, in their order, without the duplicates when
 // they are to be skipped: account, date, description and amount.
-std::vector<Listbox::Row> transactionRows(const std::vector<ImportedRow>& rows, bool skipDuplicates);
+Listbox::Rows transactionRows(const std::vector<ImportedRow>& rows, bool skipDuplicates);

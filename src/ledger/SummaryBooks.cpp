@@ -38,8 +38,8 @@ void SummaryBooks::calcAll()
     if (!ledgerOpen())
         return;
     const BalanceTotals totals = calculateBalances(accountsBox, transBox, reconcileOn_);
-    taxText = Str(totals.tax);
-    balText = Str(totals.transactions);
+    taxText = totals.tax.text();
+    balText = totals.transactions.text();
     Q_EMIT totalsChanged();
     writeSeconds(transBox);
     storeBoth();

@@ -154,9 +154,9 @@ void TransactionOperations::transBox_ContextualMenuAction(const QString& itemTex
     books_.calcAll();
 }
 
-int TransactionOperations::appendTransactions(std::vector<Listbox::Row> rows)
+int TransactionOperations::appendTransactions(Listbox::Rows rows)
 {
-    const int count = int(rows.size());
+    const int count = rows.count();
     books_.transBox.appendRows(std::move(rows));
     books_.calcAll();
     return count;

@@ -57,7 +57,7 @@ public:
 
     // Rows made for transBox appended in their order, then calcAll. Returns how
     // many came in.
-    int appendTransactions(std::vector<Listbox::Row> rows);
+    int appendTransactions(Listbox::Rows rows);
 
 private:
     SummaryBooks& books_;

@@ -3,6 +3,7 @@
 #include "books/rowtable/Listbox.h"
 #include "engine/RowLayouts.h"
 #include "platform/Dates.h"
+#include "platform/DecimalSum.h"
 #include "platform/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -77,9 +78,9 @@ DateRangeResult applyDateRange(Listbox& list, const QDateTime& from, const QDate
         list.RemoveRow(line);
         result.removedAny = true;
     }
-    double sum = 0;
+    DecimalSum sum;
     for (int line = 0; line < list.ListCount(); ++line)
-        sum += Val(list.CellView(line, TransCol::Transaction));
-    result.total = Str(sum);
+        sum.addVal(list.CellView(line, TransCol::Transaction));
+    result.total = sum.text();
     return result;
 }

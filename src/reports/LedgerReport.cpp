@@ -34,7 +34,6 @@ std::vector<std::vector<int>> transactionsByAccount(const Listbox& accounts, con
     std::vector<std::vector<int>> byAccount(std::max(accounts.ListCount(), 1));
     AccountIndex index(accounts);
     for (int k = 0; k < transactions.ListCount(); ++k) {
-        transactions.prefetchCell(k + 8, TransCol::Account);
         const std::span<const int> owners = index.rowsNamed(transactions.CellView(k, TransCol::Account));
         if (owners.empty() || !belongs(transactions.CellView(k, TransCol::Date)))
             continue;

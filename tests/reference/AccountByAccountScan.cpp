@@ -13,7 +13,7 @@ ScanTotals scanAccountByAccount(Listbox& accounts, const Listbox& transactions, 
     const QString baseType = accounts.Cell(0, AccountCol::Type);
     if (isWord(baseType, u"asset") || isWord(baseType, u"main account"))
         accounts.SetCell(0, AccountCol::Type, u"Base Account");
-    std::vector<double> totals(std::max(last + 1, 0), 0.0);
+    std::vector<DecimalSum> totals(std::max(last + 1, 0));
     for (int r = 1; r <= last; ++r) {
         if (isWord(accounts.Cell(r, AccountCol::Type), u"asset"))
             accounts.SetCell(r, AccountCol::Type, u"Revenue");
@@ -22,23 +22,24 @@ ScanTotals scanAccountByAccount(Listbox& accounts, const Listbox& transactions, 
             if (reconciledOnly && !transactions.CellCheck(t, TransCol::Account))
                 continue;
             if (transactions.Cell(t, TransCol::Account).compare(name, Qt::CaseInsensitive) == 0)
-                totals[r] += Val(Globals::cvt(transactions.Cell(t, TransCol::Transaction)));
+                totals[r].addVal(Globals::cvt(transactions.Cell(t, TransCol::Transaction)));
         }
-        accounts.SetCell(r, AccountCol::Transactions, Str(totals[r]));
-        accounts.SetCell(r, AccountCol::Balance,
-                         Str(Val(Globals::cvt(accounts.Cell(r, AccountCol::Opening))) + totals[r]));
+        accounts.SetCell(r, AccountCol::Transactions, totals[r].text());
+        totals[r].addVal(Globals::cvt(accounts.Cell(r, AccountCol::Opening)));
+        accounts.SetCell(r, AccountCol::Balance, totals[r].text());
     }
     ScanTotals result;
     for (int t = 0; t < transactions.ListCount(); ++t) {
         if (reconciledOnly && !transactions.CellCheck(t, TransCol::Account))
             continue;
-        result.tax += Val(Globals::cvt(transactions.Cell(t, TransCol::Tax)));
-        result.transactions += Val(Globals::cvt(transactions.Cell(t, TransCol::Transaction)));
+        result.tax.addVal(Globals::cvt(transactions.Cell(t, TransCol::Tax)));
+        result.transactions.addVal(Globals::cvt(transactions.Cell(t, TransCol::Transaction)));
     }
-    double sum = 0;
+    DecimalSum sum;
     for (int r = 1; r <= last; ++r)
-        sum += Val(Globals::cvt(accounts.Cell(r, AccountCol::Transactions)));
-    accounts.SetCell(0, AccountCol::Transactions, Str(sum));
-    accounts.SetCell(0, AccountCol::Balance, Str(Val(Globals::cvt(accounts.Cell(0, AccountCol::Opening))) + sum));
+        sum.addVal(Globals::cvt(accounts.Cell(r, AccountCol::Transactions)));
+    accounts.SetCell(0, AccountCol::Transactions, sum.text());
+    sum.addVal(Globals::cvt(accounts.Cell(0, AccountCol::Opening)));
+    accounts.SetCell(0, AccountCol::Balance, sum.text());
     return result;
 }

@@ -2,37 +2,12 @@
 
 #include <algorithm>
 
-Listbox::Row::Row(const QStringView* cells, int cellCount, int columnCount)
-{
-    qsizetype length = columnCount * kSeparatorSize;
-    for (int c = 0; c < cellCount && c < columnCount; ++c)
-        length += cells[c].size();
-    text_.reserve(length);
-    starts_.resize(columnCount);
-    for (int c = 0; c < columnCount; ++c) {
-        if (c < cellCount)
-            text_.append(cells[c]);
-        text_.append(kSeparator);
-        starts_[c] = quint32(text_.size());
-    }
-}
-
-void Listbox::Row::assignCell(int column, QStringView text)
-{
-    const int count = columnCount();
-    const qsizetype start = column == 0 ? 0 : starts_[column - 1];
-    const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
-    const qsizetype delta = text.size() - (end - start);
-    text_.replace(start, end - start, text.data(), text.size());
-    for (int c = column; c < count; ++c)
-        starts_[c] = quint32(starts_[c] + delta);
-}
-
 Listbox::Listbox(const QString& name, int columnCount, SelectionType selection, QObject* parent)
     : QObject(parent)
     , name_(name)
     , columnCount_(std::clamp(columnCount, 1, 31))
     , selection_(selection)
+    , rows_(columnCount_)
 {
     setObjectName(name);
 }
@@ -41,18 +16,21 @@ void Listbox::AddRow(QStringView text)
 {
     const int row = ListCount();
     Q_EMIT rowsAboutToBeAdded(row, row);
-    rows_.emplace_back(&text, 1, columnCount_);
+    rows_.add(&text, 1);
     lastIndex_ = row;
     Q_EMIT rowsAdded();
 }
 
-void Listbox::appendRows(std::vector<Row> rows)
+void Listbox::appendRows(Rows rows)
 {
-    if (rows.empty())
+    if (rows.count() == 0)
         return;
+    Q_ASSERT(rows.columnCount() == columnCount_);
     const int first = ListCount();
-    Q_EMIT rowsAboutToBeAdded(first, first + int(rows.size()) - 1);
-    rows_.insert(rows_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+    Q_EMIT rowsAboutToBeAdded(first, first + rows.count() - 1);
+    for (RowStore::Row& row : rows.rows())
+        row.selected = false;
+    rows_.append(std::move(rows));
     lastIndex_ = ListCount() - 1;
     Q_EMIT rowsAdded();
 }
@@ -61,9 +39,10 @@ void Listbox::RemoveRow(int row)
 {
     if (!validRow(row))
         return;
-    const bool wasSelected = rows_[row].selected_;
+    const bool wasSelected = rows_[row].selected;
     Q_EMIT rowsAboutToBeRemoved(row, row);
-    rows_.erase(rows_.begin() + row);
+    rows_.release(row, row);
+    rows_.rows().erase(rows_.rows().begin() + row);
     if (lastIndex_ == row)
         lastIndex_ = -1;
     else if (lastIndex_ > row)
@@ -82,14 +61,15 @@ void Listbox::RemoveRow(int row)
 
 void Listbox::removeRowsWhere(const std::function<bool(int row)>& remove)
 {
-    std::vector<bool> gone(rows_.size());
+    std::vector<bool> gone(ListCount());
     bool any = false;
     bool selectionGone = false;
     for (int row = 0; row < ListCount(); ++row) {
         if (remove(row)) {
             gone[row] = true;
             any = true;
-            selectionGone = selectionGone || rows_[row].selected_;
+            selectionGone = selectionGone || rows_[row].selected;
+            rows_.release(row, row);
         }
     }
     if (!any)
@@ -103,12 +83,12 @@ void Listbox::removeRowsWhere(const std::function<bool(int row)>& remove)
             continue;
         if (row == lastIndex_)
             newLastIndex = kept;
-        selectedCount_ += rows_[row].selected_ ? 1 : 0;
+        selectedCount_ += rows_[row].selected ? 1 : 0;
         if (kept != row)
-            rows_[kept] = std::move(rows_[row]);
+            rows_[kept] = rows_[row];
         ++kept;
     }
-    rows_.erase(rows_.begin() + kept, rows_.end());
+    rows_.rows().resize(kept);
     lastIndex_ = newLastIndex;
     recomputeFirstSelected();
     Q_EMIT resetDone();
@@ -118,16 +98,17 @@ void Listbox::removeRowsWhere(const std::function<bool(int row)>& remove)
 
 void Listbox::DeleteAllRows()
 {
-    replaceAllRows({});
+    replaceAllRows(Rows(columnCount_));
 }
 
-void Listbox::replaceAllRows(std::vector<Row> rows)
+void Listbox::replaceAllRows(Rows rows)
 {
+    Q_ASSERT(rows.columnCount() == columnCount_);
     const bool hadSelection = selectedCount_ > 0;
     Q_EMIT aboutToReset();
     rows_ = std::move(rows);
-    for (Row& row : rows_)
-        row.selected_ = false;
+    for (RowStore::Row& row : rows_.rows())
+        row.selected = false;
     lastIndex_ = ListCount() - 1;
     firstSelected_ = -1;
     selectedCount_ = 0;
@@ -140,19 +121,15 @@ void Listbox::SetCell(int row, int column, QStringView text)
 {
     if (!validCell(row, column))
         return;
-    Row& r = rows_[row];
-    if (r.cell(column) == text)
+    if (rows_.cell(row, column) == text)
         return;
-    r.assignCell(column, text);
+    rows_.assign(row, column, text);
     Q_EMIT cellChanged(row, column);
 }
 
 QStringView Listbox::storedLine(int row) const
 {
-    if (!validRow(row))
-        return {};
-    const Row& r = rows_[row];
-    return QStringView(r.text_).left(r.starts_[columnCount_ - 1]);
+    return validRow(row) ? rows_.storedLine(row) : QStringView();
 }
 
 void Listbox::SetListIndex(int row)
@@ -160,12 +137,12 @@ void Listbox::SetListIndex(int row)
     if (row < -1 || row >= ListCount())
         return;
     const bool unchanged = row < 0 ? selectedCount_ == 0
-                                   : selectedCount_ == 1 && rows_[row].selected_;
+                                   : selectedCount_ == 1 && rows_[row].selected;
     if (unchanged)
         return;
     clearSelectionFlags();
     if (row >= 0) {
-        rows_[row].selected_ = true;
+        rows_[row].selected = true;
         selectedCount_ = 1;
     }
     firstSelected_ = row;
@@ -174,18 +151,18 @@ void Listbox::SetListIndex(int row)
 
 bool Listbox::Selected(int row) const
 {
-    return validRow(row) && rows_[row].selected_;
+    return validRow(row) && rows_[row].selected;
 }
 
 void Listbox::SetSelected(int row, bool selected)
 {
-    if (!validRow(row) || rows_[row].selected_ == selected)
+    if (!validRow(row) || rows_[row].selected == selected)
         return;
     if (selection_ == SelectionType::Single) {
         SetListIndex(selected ? row : -1);
         return;
     }
-    rows_[row].selected_ = selected;
+    rows_[row].selected = selected;
     if (selected) {
         ++selectedCount_;
         if (firstSelected_ < 0 || row < firstSelected_)
@@ -211,12 +188,12 @@ void Listbox::setSelectedRows(const std::vector<int>& rows)
 
     bool same = int(wanted.size()) == selectedCount_;
     for (int row : wanted)
-        same = same && rows_[row].selected_;
+        same = same && rows_[row].selected;
     if (same)
         return;
     clearSelectionFlags();
     for (int row : wanted)
-        rows_[row].selected_ = true;
+        rows_[row].selected = true;
     selectedCount_ = int(wanted.size());
     firstSelected_ = wanted.empty() ? -1 : wanted.front();
     notifySelection();
@@ -225,8 +202,8 @@ void Listbox::setSelectedRows(const std::vector<int>& rows)
 void Listbox::clearSelectionFlags()
 {
     for (int row = std::max(firstSelected_, 0); row < ListCount() && selectedCount_ > 0; ++row) {
-        if (rows_[row].selected_) {
-            rows_[row].selected_ = false;
+        if (rows_[row].selected) {
+            rows_[row].selected = false;
             --selectedCount_;
         }
     }
@@ -240,7 +217,7 @@ void Listbox::recomputeFirstSelected()
     if (selectedCount_ == 0)
         return;
     for (int row = 0; row < ListCount(); ++row) {
-        if (rows_[row].selected_) {
+        if (rows_[row].selected) {
             firstSelected_ = row;
             return;
         }
@@ -255,23 +232,23 @@ void Listbox::notifySelection()
 
 bool Listbox::CellCheck(int row, int column) const
 {
-    return validRow(row) && validFlagColumn(column) && (rows_[row].checks_ >> column & 1u);
+    return validRow(row) && validFlagColumn(column) && (rows_[row].checks >> column & 1u);
 }
 
 void Listbox::SetCellCheck(int row, int column, bool checked)
 {
     if (!validRow(row) || !validFlagColumn(column) || CellCheck(row, column) == checked)
         return;
-    rows_[row].checks_ ^= 1u << column;
+    rows_[row].checks ^= 1u << column;
     Q_EMIT cellChanged(row, column);
 }
 
-bool Listbox::cellFlag(quint32 Row::*flags, int row, int column) const
+bool Listbox::cellFlag(quint32 RowStore::Row::*flags, int row, int column) const
 {
     return validRow(row) && validFlagColumn(column) && (rows_[row].*flags >> column & 1u);
 }
 
-void Listbox::setCellFlag(quint32 Row::*flags, int row, int column, bool on)
+void Listbox::setCellFlag(quint32 RowStore::Row::*flags, int row, int column, bool on)
 {
     if (!validRow(row) || !validFlagColumn(column) || cellFlag(flags, row, column) == on)
         return;
@@ -279,26 +256,26 @@ void Listbox::setCellFlag(quint32 Row::*flags, int row, int column, bool on)
     Q_EMIT cellChanged(row, column);
 }
 
-bool Listbox::CellBold(int row, int column) const { return cellFlag(&Row::bolds_, row, column); }
-void Listbox::SetCellBold(int row, int column, bool bold) { setCellFlag(&Row::bolds_, row, column, bold); }
-bool Listbox::CellItalic(int row, int column) const { return cellFlag(&Row::italics_, row, column); }
-void Listbox::SetCellItalic(int row, int column, bool italic) { setCellFlag(&Row::italics_, row, column, italic); }
-bool Listbox::CellUnderline(int row, int column) const { return cellFlag(&Row::underlines_, row, column); }
+bool Listbox::CellBold(int row, int column) const { return cellFlag(&RowStore::Row::bolds, row, column); }
+void Listbox::SetCellBold(int row, int column, bool bold) { setCellFlag(&RowStore::Row::bolds, row, column, bold); }
+bool Listbox::CellItalic(int row, int column) const { return cellFlag(&RowStore::Row::italics, row, column); }
+void Listbox::SetCellItalic(int row, int column, bool italic) { setCellFlag(&RowStore::Row::italics, row, column, italic); }
+bool Listbox::CellUnderline(int row, int column) const { return cellFlag(&RowStore::Row::underlines, row, column); }
 void Listbox::SetCellUnderline(int row, int column, bool underline)
 {
-    setCellFlag(&Row::underlines_, row, column, underline);
+    setCellFlag(&RowStore::Row::underlines, row, column, underline);
 }
 
 RowPicture Listbox::rowPicture(int row) const
 {
-    return validRow(row) ? rows_[row].picture_ : RowPicture::None;
+    return validRow(row) ? rows_[row].picture : RowPicture::None;
 }
 
 void Listbox::SetRowPicture(int row, RowPicture picture)
 {
-    if (!validRow(row) || rows_[row].picture_ == picture)
+    if (!validRow(row) || rows_[row].picture == picture)
         return;
-    rows_[row].picture_ = picture;
+    rows_[row].picture = picture;
     Q_EMIT cellChanged(row, 0);
 }
 
@@ -352,10 +329,11 @@ void Listbox::SortRows(int column, Qt::SortOrder order)
     if (column < 0 || column >= columnCount_ || ListCount() < 2)
         return;
     Q_EMIT aboutToReset();
-    std::stable_sort(rows_.begin(), rows_.end(), [column, order](const Row& a, const Row& b) {
-        const int c = a.cell(column).compare(b.cell(column), Qt::CaseInsensitive);
-        return order == Qt::AscendingOrder ? c < 0 : c > 0;
-    });
+    std::stable_sort(rows_.rows().begin(), rows_.rows().end(),
+                     [&](const RowStore::Row& a, const RowStore::Row& b) {
+                         const int c = rows_.cell(a, column).compare(rows_.cell(b, column), Qt::CaseInsensitive);
+                         return order == Qt::AscendingOrder ? c < 0 : c > 0;
+                     });
     recomputeFirstSelected();
     Q_EMIT resetDone();
 }
@@ -365,10 +343,11 @@ void Listbox::moveRow(int from, int to)
     if (!validRow(from) || !validRow(to) || from == to)
         return;
     Q_EMIT aboutToReset();
+    std::vector<RowStore::Row>& rows = rows_.rows();
     if (from < to)
-        std::rotate(rows_.begin() + from, rows_.begin() + from + 1, rows_.begin() + to + 1);
+        std::rotate(rows.begin() + from, rows.begin() + from + 1, rows.begin() + to + 1);
     else
-        std::rotate(rows_.begin() + to, rows_.begin() + from, rows_.begin() + from + 1);
+        std::rotate(rows.begin() + to, rows.begin() + from, rows.begin() + from + 1);
     recomputeFirstSelected();
     Q_EMIT resetDone();
 }

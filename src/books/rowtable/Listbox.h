@@ -1,23 +1,18 @@
 #pragma once
 
 #include "books/rowtable/RowPicture.h"
+#include "books/rowtable/RowStore.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringView>
-#include <QVarLengthArray>
 
 #include <functional>
 #include <vector>
 
 // The row table: ordered rows of text cells with a selection. It is the working
-// store of the whole program; a grid on screen is only a view of it.
-//
-// Each row keeps its cells in one string, every cell followed by the separator of
-// the table files, then the hidden cell one place past the last column:
-//     "" | "Cash" | "1200.00"   is stored as   "@#@Cash@#@1200.00@#@"
-// so a row costs one allocation instead of one per cell, and a save writes each
-// row's text as it stands.
+// store of the whole program; a grid on screen is only a view of it. How the
+// rows keep their text is RowStore's job.
 class Listbox : public QObject {
     Q_OBJECT
 
@@ -27,48 +22,20 @@ public:
     enum Alignments { AlignDefault = 0, AlignLeft = 1, AlignCenter = 2, AlignRight = 3 };
 
     // Every cell is followed by this in a row's text, as in the table files.
-    static constexpr QStringView kSeparator = u"@#@";
+    static constexpr QStringView kSeparator = RowStore::kSeparator;
     static constexpr qsizetype kSeparatorSize = 3;
 
-    // One row, detached from any table: what a file load builds before the
-    // rows go into the table in one step.
-    class Row {
-    public:
-        Row() = default;
-        Row(const QStringView* cells, int cellCount, int columnCount);
-        QStringView cell(int column) const
-        {
-            const int count = columnCount();
-            if (column < 0 || column > count)
-                return {};
-            const qsizetype start = column == 0 ? 0 : starts_[column - 1];
-            const qsizetype end = column < count ? starts_[column] - kSeparatorSize : text_.size();
-            return QStringView(text_).mid(start, end - start);
-        }
-        void setPicture(RowPicture picture) { picture_ = picture; }
-
-    private:
-        friend class Listbox;
-        // The hidden cell is the one at column columnCount().
-        int columnCount() const { return int(starts_.size()); }
-        void assignCell(int column, QStringView text);
-
-        QString text_;
-        QVarLengthArray<quint32, 12> starts_; // start of each cell after the first
-        quint32 checks_ = 0;                  // one bit a column
-        quint32 bolds_ = 0;
-        quint32 italics_ = 0;
-        quint32 underlines_ = 0;
-        RowPicture picture_ = RowPicture::None;
-        bool selected_ = false;
-    };
+    // Rows detached from any table, of as many columns as the table they go
+    // into: what a file load or an import builds before the rows go into the
+    // table in one step.
+    using Rows = RowStore;
 
     Listbox(const QString& name, int columnCount, SelectionType selection = SelectionType::Single,
             QObject* parent = nullptr);
 
     const QString& Name() const { return name_; }
     int ColumnCount() const { return columnCount_; }
-    int ListCount() const { return int(rows_.size()); }
+    int ListCount() const { return rows_.count(); }
     int LastIndex() const { return lastIndex_; }
     SelectionType selectionType() const { return selection_; }
 
@@ -79,28 +46,19 @@ public:
     // removing them one by one from the last to the first, in one pass.
     void removeRowsWhere(const std::function<bool(int row)>& remove);
     // Puts rows in place of all present ones at once (a load).
-    void replaceAllRows(std::vector<Row> rows);
+    void replaceAllRows(Rows rows);
     // Adds rows after the last at once, as AddRow one by one would; the last of
     // them is LastIndex.
-    void appendRows(std::vector<Row> rows);
+    void appendRows(Rows rows);
 
     // Column may be ColumnCount(), the hidden cell; anything outside reads "".
     QString Cell(int row, int column) const { return CellView(row, column).toString(); }
     // The cell without a copy; valid until the row changes.
     QStringView CellView(int row, int column) const
     {
-        return validCell(row, column) ? rows_[row].cell(column) : QStringView();
+        return validCell(row, column) ? rows_.cell(row, column) : QStringView();
     }
     void SetCell(int row, int column, QStringView text);
-    // Asks the processor to fetch a cell while other work goes on: every row's
-    // text lies in a block of its own, and a pass over 100,000 rows otherwise
-    // waits on memory at each one. A row outside the table is no error.
-    void prefetchCell(int row, int column) const
-    {
-        // Unconditional: GCC drops a prefetch behind a branch. Outside the
-        // table the view is empty, and fetching a null address does nothing.
-        __builtin_prefetch(CellView(row, column).data());
-    }
     // The columns 0 to ColumnCount() - 1 of a row as a line of the table file,
     // each cell followed by "@#@".
     QStringView storedLine(int row) const;
@@ -193,15 +151,15 @@ private:
     void clearSelectionFlags();
     void recomputeFirstSelected();
     void notifySelection();
-    bool cellFlag(quint32 Row::*flags, int row, int column) const;
-    void setCellFlag(quint32 Row::*flags, int row, int column, bool on);
+    bool cellFlag(quint32 RowStore::Row::*flags, int row, int column) const;
+    void setCellFlag(quint32 RowStore::Row::*flags, int row, int column, bool on);
     template <typename T> static T settingOf(const std::vector<T>& settings, int column, T fallback);
     template <typename T> static void setSetting(std::vector<T>& settings, int column, T value, T fallback);
 
     QString name_;
     int columnCount_;
     SelectionType selection_;
-    std::vector<Row> rows_;
+    RowStore rows_;
     int lastIndex_ = -1;
     int firstSelected_ = -1;
     int selectedCount_ = 0;

@@ -1,7 +1,7 @@
 #include "books/rowtable/ListboxManager.h"
 
 #include "books/LedgerNames.h"
-#include "books/TextFiles.h"
+#include "books/rowtable/TableFileReader.h"
 #include "platform/Dates.h"
 #include "platform/TextHelpers.h"
 
@@ -13,36 +13,6 @@ namespace {
 
 constexpr QStringView kSeparator = Listbox::kSeparator;
 constexpr int kDateColumn = 2;
-constexpr int kTypeColumn = 2;
-
-// Splits a line at "@#@" into the cells of a row: cell 0 is always empty, since
-// what a file holds in its first field doesn't survive a load; cells beyond the
-// line's fields are empty, fields beyond the last column are ignored.
-Listbox::Row rowFromLine(QStringView line, int columnCount)
-{
-    // A line that ends in part of a separator was cut short; the part is no text
-    // of the last cell, which couldn't be stored again ("x@#" and "@#@" make
-    // "x@#@#@", which splits after "x").
-    while (line.endsWith(u"@#"))
-        line.chop(2);
-    QVarLengthArray<QStringView, 16> cells(columnCount);
-    std::fill(cells.begin(), cells.end(), QStringView());
-    qsizetype at = line.indexOf(kSeparator);
-    for (int c = 1; c < columnCount && at >= 0; ++c) {
-        const qsizetype from = at + kSeparator.size();
-        at = line.indexOf(kSeparator, from);
-        cells[c] = line.mid(from, at < 0 ? -1 : at - from);
-    }
-    return Listbox::Row(cells.data(), columnCount, columnCount);
-}
-
-RowPicture accountPicture(const Listbox::Row& row, bool first)
-{
-    if (first)
-        return RowPicture::BookIcon;
-    return row.cell(kTypeColumn).compare(u"Revenue", Qt::CaseInsensitive) == 0 ? RowPicture::accountPlus9
-                                                                                : RowPicture::accountMinus9;
-}
 
 } // namespace
 
@@ -61,7 +31,6 @@ FileProblem ListboxManager::saveListBox(const Listbox& table, const QString& fil
     QByteArray buffer(kChunk, Qt::Uninitialized);
     char* out = buffer.data();
     for (int row = 0; row < table.ListCount(); ++row) {
-        table.prefetchCell(row + 16, 0);
         const QStringView line = table.storedLine(row);
         const qsizetype needed = encoder.requiredSpace(line.size()) + 1;
         if (out - buffer.data() + needed > buffer.size()) {
@@ -83,25 +52,12 @@ FileProblem ListboxManager::loadListBox(Listbox& table, const QString& fileName)
     const BookFilePath source = bookFilePath(ProgramDataFolder, fileName);
     if (source.path.isEmpty())
         return {ProgramDataFolder.isEmpty() ? QString() : source.problem}; // no folder: nothing to read
-    const TextContent content = readTextFile(source.path);
-    if (!content.text)
+    TableFileRows content = readTableFile(source.path, table.ColumnCount(), InStr(fileName, u"AccountData") > 0);
+    if (!content.rows)
         return {content.problem};
-    table.replaceAllRows(rowsOfText(*content.text, table.ColumnCount(), InStr(fileName, u"AccountData") > 0));
+    table.replaceAllRows(std::move(*content.rows));
     convertToSQLdate(table);
     return {};
-}
-
-std::vector<Listbox::Row> ListboxManager::rowsOfText(QStringView text, int columnCount, bool accountData)
-{
-    std::vector<Listbox::Row> rows;
-    forEachLine(text, [&](QStringView line) {
-        if (line.isEmpty())
-            return;
-        rows.push_back(rowFromLine(line, columnCount));
-        if (accountData)
-            rows.back().setPicture(accountPicture(rows.back(), rows.size() == 1));
-    });
-    return rows;
 }
 
 bool ListboxManager::fitsTheFile(QStringView cell)
@@ -117,12 +73,13 @@ void ListboxManager::convertToSQLdate(Listbox& table)
         return;
     for (int row = 0; row < table.ListCount(); ++row) {
         const QStringView text = table.CellView(row, kDateColumn);
-        QDate date;
-        if (!ParseDate(text, date))
+        // Ten characters with the hyphens in place stay as they are, whether a
+        // date can be read from them or not: nearly every stored date, and no
+        // need to read it.
+        if (text.size() == 10 && text[4] == u'-' && text[7] == u'-')
             continue;
-        // A read date of ten characters with the hyphens in place is its own SQLDate.
-        const bool alreadySql = text.size() == 10 && text[4] == u'-' && text[7] == u'-';
-        if (!alreadySql)
+        QDate date;
+        if (ParseDate(text, date))
             table.SetCell(row, kDateColumn, SQLDate(date));
     }
 }

@@ -30,9 +30,6 @@ public:
     // fields beyond the last column are ignored. Rows of an "AccountData" file get
     // their account pictures; the dates of transBox are rewritten to year-month-day.
     FileProblem loadListBox(Listbox& table, const QString& fileName) const;
-    // The rows of a table file's text, as loadListBox puts them in a table of
-    // that many columns.
-    static std::vector<Listbox::Row> rowsOfText(QStringView text, int columnCount, bool accountData);
     // Rewrites every date of transBox in column 2 that ParseDate reads into its
     // SQLDate form; other texts stay. Does nothing to any other table.
     static void convertToSQLdate(Listbox& table);

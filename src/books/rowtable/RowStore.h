@@ -1,0 +1,98 @@
+#pragma once
+
+#include "books/rowtable/RowPicture.h"
+
+#include <QStringView>
+
+#include <cstring>
+#include <memory>
+#include <vector>
+
+// The rows of a table: each row's cells in one run of text, the runs packed
+// into a few large blocks, and beside them each row's marks, picture and
+// selection. A table of 100,000 rows so costs a handful of allocations, and
+// a pass over the rows reads memory in the order it was filled.
+//
+// A row's text is every cell followed by the separator of the table files,
+// then the hidden cell one place past the last column:
+//     "" | "Cash" | "1200.00"   is stored as   "@#@Cash@#@1200.00@#@"
+// so a save writes each row's text as it stands. Before the text stand the
+// starts of the cells after the first: 16 bits each, or 32 for a row longer
+// than 65,535 characters. A row whose text grows moves to new space; the space
+// it leaves is reclaimed once more than half of all space is such.
+class RowStore {
+public:
+    static constexpr QStringView kSeparator = u"@#@";
+
+    struct Row {
+        char16_t* entry = nullptr; // the starts, then the text
+        quint32 size = 0;          // characters of text
+        quint32 checks = 0;        // one bit a column
+        quint32 bolds = 0;
+        quint32 italics = 0;
+        quint32 underlines = 0;
+        RowPicture picture = RowPicture::None;
+        bool selected = false;
+        bool wide = false; // starts of 32 bits
+    };
+
+    explicit RowStore(int columnCount);
+    RowStore(RowStore&&) noexcept = default;
+    RowStore& operator=(RowStore&&) noexcept = default;
+
+    int columnCount() const { return columnCount_; }
+    int count() const { return int(rows_.size()); }
+    Row& operator[](int row) { return rows_[row]; }
+    const Row& operator[](int row) const { return rows_[row]; }
+    // For reordering and removing rows; a removed row's space counts as free.
+    std::vector<Row>& rows() { return rows_; }
+
+    // A new last row of cellCount cells, the other columns and the hidden cell empty.
+    void add(const QStringView* cells, int cellCount);
+    // Column may be columnCount(), the hidden cell.
+    QStringView cell(int row, int column) const { return cell(rows_[row], column); }
+    QStringView cell(const Row& r, int column) const
+    {
+        const qsizetype start = column == 0 ? 0 : startOf(r, column - 1);
+        const qsizetype end = column < columnCount_ ? startOf(r, column) - kSeparator.size() : r.size;
+        return QStringView(textOf(r) + start, end - start);
+    }
+    // The columns 0 to columnCount() - 1, each cell followed by the separator.
+    QStringView storedLine(int row) const
+    {
+        const Row& r = rows_[row];
+        return QStringView(textOf(r), startOf(r, columnCount_ - 1));
+    }
+    void assign(int row, int column, QStringView text);
+    // Counts the space of rows about to be removed from rows() as free.
+    void release(int first, int last);
+    // Puts other's rows after these; other is left empty.
+    void append(RowStore&& other);
+    void clear();
+
+private:
+    qsizetype startOf(const Row& r, int index) const
+    {
+        if (!r.wide)
+            return r.entry[index];
+        quint32 start;
+        std::memcpy(&start, r.entry + 2 * index, sizeof start);
+        return start;
+    }
+    const char16_t* textOf(const Row& r) const { return r.entry + (r.wide ? 2 : 1) * columnCount_; }
+    qsizetype unitsOf(const Row& r) const { return (r.wide ? 2 : 1) * columnCount_ + r.size; }
+    // A new entry for size characters of text, its starts still to be written.
+    void place(Row& r, qsizetype size);
+    void setStart(Row& r, int index, qsizetype start);
+    char16_t* allocate(qsizetype units);
+    void compactIfWasteful();
+
+    int columnCount_;
+    std::vector<Row> rows_;
+    std::vector<std::unique_ptr<char16_t[]>> blocks_;
+    char16_t* free_ = nullptr;
+    qsizetype left_ = 0;
+    qsizetype nextBlock_ = 1024;
+    qsizetype used_ = 0;   // units handed out, to rows alive or not
+    qsizetype wasted_ = 0; // units of rows removed or moved
+};

@@ -1,0 +1,200 @@
+#include "books/rowtable/TableFileReader.h"
+
+#include "books/FileStore.h"
+
+#include <QStringDecoder>
+
+#include <cstring>
+
+namespace {
+
+constexpr QStringView kSeparator = Listbox::kSeparator;
+constexpr int kTypeColumn = 2;
+constexpr qsizetype kPiece = 256 * 1024;
+
+// Turns the lines of a file into rows, one line at a time.
+class RowsFromLines {
+public:
+    RowsFromLines(int columnCount, bool accountData, bool latin1)
+        : rows(columnCount)
+        , columnCount_(columnCount)
+        , accountData_(accountData)
+        , latin1_(latin1)
+        , cells_(columnCount)
+    {
+    }
+
+    // False when the line isn't valid UTF-8: the file must be read as Latin-1.
+    bool addLine(const char* begin, const char* end)
+    {
+        if (begin == end)
+            return true;
+        if (!decode(begin, end))
+            return false;
+        addRow(QStringView(text_.data(), textSize_));
+        return true;
+    }
+
+    Listbox::Rows rows;
+
+private:
+    bool decode(const char* begin, const char* end)
+    {
+        const qsizetype size = end - begin;
+        if (qsizetype(text_.size()) < size + 2) // the decoder's own margin
+            text_.resize(size + 2);
+        // Most lines are ASCII: widened as they are, in a loop the compiler
+        // vectorises; the test for any high byte is one pass beside it.
+        unsigned char high = 0;
+        for (qsizetype i = 0; i < size; ++i) {
+            const unsigned char byte = static_cast<unsigned char>(begin[i]);
+            high |= byte;
+            text_[i] = byte;
+        }
+        textSize_ = size;
+        if (high < 0x80 || latin1_)
+            return true;
+        const QByteArrayView bytes(begin, size);
+        if (!bytes.isValidUtf8())
+            return false;
+        // A mark in the middle of a file is a character like any other.
+        QStringDecoder decoder(QStringDecoder::Utf8,
+                               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+        textSize_ = decoder.appendToBuffer(reinterpret_cast<QChar*>(text_.data()), bytes) -
+            reinterpret_cast<QChar*>(text_.data());
+        return true;
+    }
+
+    void addRow(QStringView line)
+    {
+        // A line that ends in part of a separator was cut short; the part is no
+        // text of the last cell, which couldn't be stored again ("x@#" and "@#@"
+        // make "x@#@#@", which splits after "x").
+        while (line.endsWith(u"@#"))
+            line.chop(2);
+        std::fill(cells_.begin(), cells_.end(), QStringView());
+        qsizetype at = separatorFrom(line, 0);
+        for (int c = 1; c < columnCount_ && at >= 0; ++c) {
+            const qsizetype from = at + kSeparator.size();
+            at = separatorFrom(line, from);
+            cells_[c] = line.mid(from, at < 0 ? -1 : at - from);
+        }
+        rows.add(cells_.data(), columnCount_);
+        if (accountData_) {
+            const int row = rows.count() - 1;
+            rows[row].picture = row == 0 ? RowPicture::BookIcon
+                : rows.cell(row, kTypeColumn).compare(u"Revenue", Qt::CaseInsensitive) == 0 ? RowPicture::accountPlus9
+                                                                                              : RowPicture::accountMinus9;
+        }
+    }
+
+    // Where the next "@#@" starts, looking for its "@" with the fast character search.
+    static qsizetype separatorFrom(QStringView line, qsizetype from)
+    {
+        for (;;) {
+            const qsizetype at = line.indexOf(u'@', from);
+            if (at < 0 || line.mid(at, kSeparator.size()) == kSeparator)
+                return at;
+            from = at + 1;
+        }
+    }
+
+    int columnCount_;
+    bool accountData_;
+    bool latin1_;
+    std::vector<char16_t> text_;
+    qsizetype textSize_ = 0;
+    std::vector<QStringView> cells_;
+};
+
+// The lines of one piece of a file; returns where the unfinished last line
+// starts, or nullptr when a line isn't valid UTF-8.
+const char* addLines(RowsFromLines& lines, const char* begin, const char* end, bool atEnd)
+{
+    while (begin < end) {
+        const char* lineEnd = static_cast<const char*>(std::memchr(begin, '\n', end - begin));
+        if (lineEnd == nullptr) {
+            if (!atEnd)
+                break;
+            lineEnd = end;
+        }
+        // A lone "\r" ends a line too; "\r\n" leaves an empty line, which is skipped.
+        for (const char* cr; (cr = static_cast<const char*>(std::memchr(begin, '\r', lineEnd - begin)));) {
+            if (!lines.addLine(begin, cr))
+                return nullptr;
+            begin = cr + 1;
+        }
+        if (!lines.addLine(begin, lineEnd))
+            return nullptr;
+        begin = lineEnd + (lineEnd < end ? 1 : 0);
+    }
+    return begin;
+}
+
+bool startsWithMark(const char* bytes, qsizetype size)
+{
+    return size >= 3 && std::memcmp(bytes, "\xEF\xBB\xBF", 3) == 0;
+}
+
+// The rows of a file read as UTF-8, or as Latin-1; none when the UTF-8 reading
+// meets an invalid byte or the file can't be read.
+std::optional<Listbox::Rows> readRows(PlainFileReader& file, int columnCount, bool accountData, bool latin1)
+{
+    RowsFromLines lines(columnCount, accountData, latin1);
+    std::vector<char> piece(kPiece);
+    qsizetype held = 0; // bytes of an unfinished line at the start of piece
+    bool markChecked = latin1;
+    for (;;) {
+        if (held == qsizetype(piece.size()))
+            piece.resize(piece.size() * 2); // a line longer than the piece
+        const qsizetype got = file.read(piece.data() + held, qsizetype(piece.size()) - held);
+        if (got < 0)
+            return std::nullopt;
+        const bool atEnd = got == 0;
+        const char* begin = piece.data();
+        const char* const end = begin + held + got;
+        if (!markChecked) {
+            if (end - begin < 3 && !atEnd) {
+                held = end - begin; // too few bytes yet to tell a mark
+                continue;
+            }
+            if (startsWithMark(begin, end - begin))
+                begin += 3;
+            markChecked = true;
+        }
+        const char* rest = addLines(lines, begin, end, atEnd);
+        if (rest == nullptr)
+            return std::nullopt;
+        if (atEnd)
+            return std::move(lines.rows);
+        held = end - rest;
+        std::memmove(piece.data(), rest, size_t(held));
+    }
+}
+
+} // namespace
+
+TableFileRows readTableFile(const QString& path, int columnCount, bool accountData)
+{
+    PlainFileReader file(path);
+    if (!file.isOpen())
+        return {std::nullopt, file.problem()};
+    std::optional<Listbox::Rows> rows = readRows(file, columnCount, accountData, false);
+    if (!rows && file.problem().isEmpty() && file.rewind())
+        rows = readRows(file, columnCount, accountData, true);
+    if (!rows)
+        return {std::nullopt, file.problem()};
+    return {std::move(rows), {}};
+}
+
+Listbox::Rows rowsOfBytes(QByteArrayView bytes, int columnCount, bool accountData)
+{
+    const char* begin = bytes.data();
+    const char* const end = begin + bytes.size();
+    RowsFromLines utf8(columnCount, accountData, false);
+    if (addLines(utf8, begin + (startsWithMark(begin, bytes.size()) ? 3 : 0), end, true))
+        return std::move(utf8.rows);
+    RowsFromLines latin1(columnCount, accountData, true);
+    addLines(latin1, begin, end, true);
+    return std::move(latin1.rows);
+}
