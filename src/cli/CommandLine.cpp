@@ -234,6 +234,17 @@ int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err)
 
 } // namespace
 
+bool commandDraws(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addOptions(allOptions());
+    if (!parser.parse(arguments))
+        return false;
+    const Verb* verb = entryFor(parser, parser.positionalArguments());
+    return verb != nullptr && verb->draws;
+}
+
 int refused(const Invocation& call, const QString& problem)
 {
     call.err << "quillmark-cli: " << problem << '\n';

@@ -11,3 +11,7 @@ class QTextStream;
 // as the present. Returns the exit status: 0 done, 1 a refused input (nothing
 // written) or a file that couldn't be read or saved, 2 a usage error.
 int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& err);
+
+// Whether the command draws, and so needs an application of the GUI rather
+// than the core's. A command that doesn't parse draws nothing.
+bool commandDraws(const QStringList& arguments);

@@ -118,7 +118,8 @@ const QList<Verb>& verbs()
          .words = 1,
          .values = {u"kind"_s, u"out"_s, u"size"_s},
          .checks = &chartOptionsUsable,
-         .onLedger = &chartVerb},
+         .onLedger = &chartVerb,
+         .draws = true},
         {.name = u"report"_s,
          .usage = u"report NAME [--month M | --year Y | --show-year] [--pdf FILE]"_s,
          .summary = u"The ledger report window as it opens on every month, or on month M\n"
@@ -133,7 +134,8 @@ const QList<Verb>& verbs()
          .flags = {u"show-year"_s},
          .values = {u"month"_s, u"year"_s, u"pdf"_s},
          .checks = &reportOptionsUsable,
-         .onLedger = &reportVerb},
+         .onLedger = &reportVerb,
+         .draws = true},
         {.name = u"account"_s,
          .usage = u"account NAME ACCOUNT [--from DAY] [--to DAY]"_s,
          .summary = u"The transactions window of the account ACCOUNT (not the Base\n"
@@ -155,7 +157,8 @@ const QList<Verb>& verbs()
          .words = 1,
          .values = {u"what"_s, u"pdf"_s},
          .checks = &printOptionsUsable,
-         .onLedger = &printVerb},
+         .onLedger = &printVerb,
+         .draws = true},
         {.name = u"export"_s,
          .usage = u"export NAME FILE"_s,
          .summary = u"Writes every transaction to the CSV file FILE, as File > Export does:\n"

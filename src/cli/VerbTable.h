@@ -24,6 +24,10 @@ struct Verb {
     // command line opens it, or refuses when the data folder has none of its name.
     int (*onLedger)(const Invocation& call, SummaryBooks& books) = nullptr;
     int (*withoutLedger)(const Invocation& call) = nullptr;
+    // Whether it draws (a picture, a PDF): only then does it need fonts, and
+    // so an application of the GUI, which takes longer to start than the
+    // whole of most commands.
+    bool draws = false;
 
     bool opensLedger() const { return onLedger != nullptr; }
 };
