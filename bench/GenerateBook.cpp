@@ -3,7 +3,8 @@
 // puts the ledger "  Bench" (200 accounts) into DATA_FOLDER/Quillmark, as the
 // program saves it, and the same accounts and transactions into JOURNAL as a
 // ledger-cli journal: each transaction moves its amount between its account and
-// the Base Account, and each account opens with its opening balance.
+// the Base Account, and each account opens with its opening balance. As in
+// most books, one transaction in ten has a memo.
 #include "books/AppFolders.h"
 #include "books/rowtable/Listbox.h"
 #include "books/rowtable/ListboxManager.h"
@@ -73,11 +74,22 @@ int main(int argc, char** argv)
         std::fputs("the data folder can't be made\n", stderr);
         return 1;
     }
-    const LedgerShape shape{200, count, 11, false};
-    writeGeneratedLedger(books, u"  Bench"_s, shape);
     Listbox accounts(u"accountsBox"_s, AccountCol::Count);
     Listbox transactions(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple);
-    generateLedger(accounts, transactions, shape);
+    generateLedger(accounts, transactions, LedgerShape{200, count, 11, false});
+    for (int t = 0; t < count; ++t) {
+        if (t % 10 != 0)
+            transactions.SetCell(t, TransCol::Memo, u"");
+    }
+    ListboxManager manager;
+    manager.ProgramDataFolder = books;
+    QFile list(AppFolders::quillmark(arguments[1]) + u"/BookList"_s);
+    if (manager.saveListBox(accounts, u"  BenchAccountData"_s).failed() ||
+        manager.saveListBox(transactions, u"  BenchTransData"_s).failed() || !list.open(QIODevice::WriteOnly) ||
+        list.write(QByteArray("  Bench\n")) != 8 || !list.flush()) {
+        std::fputs("the book can't be written\n", stderr);
+        return 1;
+    }
     if (!writeJournal(arguments[3], accounts, transactions)) {
         std::fputs("the journal can't be written\n", stderr);
         return 1;

@@ -95,3 +95,36 @@ TEST_F(ListboxManagerTest, AccountRowsGetPicturesAndTransactionDatesTheStoredFor
     manager.loadListBox(table, u"rows"_s);
     EXPECT_EQ(table.Cell(0, 2), u"3/9/14") << "only transactions";
 }
+
+TEST_F(ListboxManagerTest, LongRowsAMarkAndALateNonUtf8ByteLoadAsTheWholeFileReads)
+{
+    // One cell longer than any piece the file is read in, and than 16-bit
+    // starts reach; a byte-order mark only counts at the very start.
+    const QByteArray longCell(300000, 'x');
+    writeBytes(path(u"long"_s), "\xEF\xBB\xBF@#@first@#@\n@#@" + longCell + "@#@after@#@\n\xEF\xBB\xBF@#@mid@#@");
+    Listbox table(u"t"_s, 3);
+    manager.loadListBox(table, u"long"_s);
+    ASSERT_EQ(table.ListCount(), 3);
+    EXPECT_EQ(table.Cell(0, 1), u"first");
+    EXPECT_EQ(table.Cell(1, 1), QString::fromLatin1(longCell));
+    EXPECT_EQ(table.Cell(1, 2), u"after");
+    EXPECT_EQ(table.Cell(2, 0), u"") << "the mark of a later line stands in its first field";
+    EXPECT_EQ(table.Cell(2, 1), u"mid");
+    table.SetCell(1, 1, u"short now");
+    EXPECT_EQ(table.Cell(1, 2), u"after");
+
+    // A byte that isn't UTF-8 far beyond the first piece turns the whole file,
+    // the lines before it included, into Latin-1.
+    writeBytes(path(u"late"_s), "@#@\xC3\xA9@#@\n@#@" + longCell + "@#@\n@#@Caf\xE9@#@");
+    manager.loadListBox(table, u"late"_s);
+    ASSERT_EQ(table.ListCount(), 3);
+    EXPECT_EQ(table.Cell(0, 1), u"\u00C3\u00A9");
+    EXPECT_EQ(table.Cell(2, 1), u"Café");
+
+    // A date in the stored form stays as it is, a day that doesn't exist included.
+    writeBytes(path(u"dates"_s), "@#@A@#@2014-03-11@#@\n@#@A@#@3/12/14@#@\n@#@A@#@2014-02-31@#@\n");
+    Listbox transBox(u"transBox"_s, 12);
+    manager.loadListBox(transBox, u"dates"_s);
+    EXPECT_EQ((QStringList{transBox.Cell(0, 2), transBox.Cell(1, 2), transBox.Cell(2, 2)}),
+              (QStringList{u"2014-03-11"_s, u"2014-03-12"_s, u"2014-02-31"_s}));
+}

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -109,4 +111,72 @@ TEST(Listbox, SortingReordersTheRowsThemselves)
     EXPECT_EQ(table.Cell(0, 2), u"apple");
     table.SortRows(2, Qt::DescendingOrder);
     EXPECT_EQ(table.Cell(0, 2), u"Banana");
+}
+
+TEST(Listbox, RowsKeepTheirCellsThroughEditsMovesAndTheReclaimingOfSpace)
+{
+    // Random work on a table beside a plain model of it: cells that grow move
+    // their row, shrinking ones stay, rows longer than 16-bit starts reach,
+    // and enough growth that the space of old rows is reclaimed many times.
+    std::mt19937 random(5);
+    constexpr int kColumns = 5;
+    Listbox table(u"t"_s, kColumns);
+    std::vector<QStringList> model;
+    const auto text = [&random] {
+        const int length = random() % 400 == 0 ? 70000 : int(random() % 40);
+        return QString(length, QChar(char16_t(u'a' + random() % 26)));
+    };
+    const auto emptyRow = [] { return QStringList(kColumns + 1, QString()); };
+    for (int step = 0; step < 20000; ++step) {
+        const int rows = int(model.size());
+        const int row = rows ? int(random() % rows) : 0;
+        switch (random() % 12) {
+        case 0: {
+            const QString first = text();
+            table.AddRow(first);
+            model.push_back(emptyRow());
+            model.back()[0] = first;
+            break;
+        }
+        case 1:
+            if (rows) {
+                table.RemoveRow(row);
+                model.erase(model.begin() + row);
+            }
+            break;
+        case 2:
+            if (rows > 1) {
+                const int to = int(random() % rows);
+                table.moveRow(row, to);
+                const QStringList moved = model[row];
+                model.erase(model.begin() + row);
+                model.insert(model.begin() + to, moved);
+            }
+            break;
+        case 3: {
+            Listbox::Rows more(kColumns);
+            const QString cells[2] = {text(), text()};
+            const QStringView views[2] = {cells[0], cells[1]};
+            more.add(views, 2);
+            table.appendRows(std::move(more));
+            model.push_back(emptyRow());
+            model.back()[0] = cells[0];
+            model.back()[1] = cells[1];
+            break;
+        }
+        default:
+            if (rows) {
+                const int column = int(random() % (kColumns + 1));
+                const QString cell = text();
+                table.SetCell(row, column, cell);
+                model[row][column] = cell;
+            }
+        }
+        if (step % 500 == 0 || step == 19999) {
+            ASSERT_EQ(table.ListCount(), int(model.size())) << "step " << step;
+            for (int r = 0; r < table.ListCount(); ++r)
+                for (int c = 0; c <= kColumns; ++c)
+                    ASSERT_EQ(table.CellView(r, c), model[r][c]) << "step " << step << ", row " << r << ", column " << c;
+        }
+    }
 }

@@ -1,3 +1,4 @@
+#include "platform/DecimalSum.h"
 #include "platform/Numbers.h"
 #include "support/DefaultLocale.h"
 
@@ -10,6 +11,8 @@
 #include <cstring>
 #include <limits>
 #include <random>
+
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -120,4 +123,47 @@ TEST(Numbers, FormatFollowsThePatternAndAloneTheLocale)
     EXPECT_EQ(Str(1234.5), u"1234.5");
     EXPECT_EQ(Val(u"1234,5"), 1234);
     EXPECT_EQ(Val(u"1234.5"), 1234.5);
+}
+
+TEST(Numbers, DecimalSumsAreExactAndWrittenAsStrWritesThem)
+{
+    const auto amounts = [](std::initializer_list<QStringView> texts) {
+        DecimalSum sum;
+        for (QStringView text : texts)
+            sum.addAmount(text);
+        return sum.text();
+    };
+    EXPECT_EQ(amounts({u"0.1", u"0.2", u"-0.3"}), u"0");
+    EXPECT_EQ(amounts({u"-0.5", u"0.5"}), u"0") << "never \"-0\"";
+    EXPECT_EQ(amounts({u"-.5", u" \t+1.25abc", u"12,5"}), u"13.25") << "read as readAmount reads them";
+    EXPECT_EQ(amounts({u"0.05", u"-0.10"}), u"-0.05");
+    EXPECT_EQ(amounts({u"1.50", u"2.50"}), u"4") << "no zeros after the point";
+    EXPECT_EQ(amounts({u"", u"n/a", u"-", u"."}), u"0");
+    EXPECT_EQ(amounts({u"12345678901234567.891", u"1"}), u"12345678901234568.891") << "all the digits, no exponent";
+    DecimalSum val;
+    val.addVal(u"12,5");
+    val.addVal(u"0.25");
+    EXPECT_EQ(val.text(), u"12.25") << "Val stops at the comma";
+
+    // Beyond 36 digits the sum falls back to the double, and reads as Str.
+    const QString huge = u"1"_s + QString(40, u'0');
+    EXPECT_EQ(amounts({huge, u"0.1"}), Str(1e40 + 0.1));
+    EXPECT_EQ(amounts({u"0."_s + QString(40, u'0') + u"1"_s, u"2"}), u"2");
+
+    // 100,000 cent amounts, whose double sum shows digits no amount had.
+    std::mt19937 random(3);
+    DecimalSum sum;
+    qint64 cents = 0;
+    double binary = 0;
+    for (int i = 0; i < 100000; ++i) {
+        const qint64 amount = qint64(random() % 1000000) - 600000;
+        cents += amount;
+        const QString text = QString::number(double(amount) / 100, 'f', 2);
+        binary += readAmount(text);
+        sum.addAmount(text);
+    }
+    const QString exact = QString::number(double(cents) / 100, 'f', 2).remove(QRegularExpression(u"\\.?0+$"_s));
+    EXPECT_EQ(sum.text(), exact);
+    EXPECT_NE(Str(binary), exact) << "the seed must show the noise the exact sum avoids";
+    EXPECT_EQ(sum.value(), Val(exact));
 }

@@ -53,7 +53,8 @@ public:
 
     // Column may be ColumnCount(), the hidden cell; anything outside reads "".
     QString Cell(int row, int column) const { return CellView(row, column).toString(); }
-    // The cell without a copy; valid until the row changes.
+    // The cell without a copy; valid until the table changes (a change may
+    // move every row to reclaim the space of old ones).
     QStringView CellView(int row, int column) const
     {
         return validCell(row, column) ? rows_.cell(row, column) : QStringView();

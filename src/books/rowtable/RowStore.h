@@ -4,6 +4,7 @@
 
 #include <QStringView>
 
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <vector>
@@ -69,8 +70,17 @@ public:
     // Puts other's rows after these; other is left empty.
     void append(RowStore&& other);
     void clear();
+    // Room for this many rows without moving the others: address space only,
+    // until rows fill it.
+    void reserve(int rows) { rows_.reserve(size_t(rows)); }
 
 private:
+    struct FreeBlock {
+        void operator()(char16_t* block) const { std::free(block); }
+    };
+    using Block = std::unique_ptr<char16_t[], FreeBlock>;
+    static Block newBlock(qsizetype units);
+
     qsizetype startOf(const Row& r, int index) const
     {
         if (!r.wide)
@@ -89,7 +99,7 @@ private:
 
     int columnCount_;
     std::vector<Row> rows_;
-    std::vector<std::unique_ptr<char16_t[]>> blocks_;
+    std::vector<Block> blocks_;
     char16_t* free_ = nullptr;
     qsizetype left_ = 0;
     qsizetype nextBlock_ = 1024;
