@@ -38,15 +38,19 @@ bool isWord(QStringView cell, QStringView word)
 {
     // The cells are mostly ASCII words, read in every row of a pass; comparing
     // those by hand spares Qt's Unicode case folding, which takes the rest.
-    const auto ascii = [](QStringView text) {
-        return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-    };
-    if (!ascii(cell) || !ascii(word))
-        return cell.compare(word, Qt::CaseInsensitive) == 0;
+    // Folding keeps the length, so texts of other lengths never match.
+    if (cell.size() != word.size())
+        return false;
     const auto lower = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
-    return cell.size() == word.size()
-        && std::equal(cell.begin(), cell.end(), word.begin(),
-                      [&](QChar a, QChar b) { return lower(a.unicode()) == lower(b.unicode()); });
+    for (qsizetype i = 0; i < cell.size(); ++i) {
+        const char16_t a = cell[i].unicode();
+        const char16_t b = word[i].unicode();
+        if (a >= 0x80 || b >= 0x80)
+            return cell.compare(word, Qt::CaseInsensitive) == 0;
+        if (lower(a) != lower(b))
+            return false;
+    }
+    return true;
 }
 
 void setUpLedgerList(Listbox& table)

@@ -243,27 +243,27 @@ void Listbox::SetCellCheck(int row, int column, bool checked)
     Q_EMIT cellChanged(row, column);
 }
 
-bool Listbox::cellFlag(quint32 RowStore::Row::*flags, int row, int column) const
+bool Listbox::styled(RowStore::Style style, int row, int column) const
 {
-    return validRow(row) && validFlagColumn(column) && (rows_[row].*flags >> column & 1u);
+    return validRow(row) && validFlagColumn(column) && rows_.styled(row, style, column);
 }
 
-void Listbox::setCellFlag(quint32 RowStore::Row::*flags, int row, int column, bool on)
+void Listbox::setStyled(RowStore::Style style, int row, int column, bool on)
 {
-    if (!validRow(row) || !validFlagColumn(column) || cellFlag(flags, row, column) == on)
+    if (!validRow(row) || !validFlagColumn(column) || rows_.styled(row, style, column) == on)
         return;
-    rows_[row].*flags ^= 1u << column;
+    rows_.setStyled(row, style, column, on);
     Q_EMIT cellChanged(row, column);
 }
 
-bool Listbox::CellBold(int row, int column) const { return cellFlag(&RowStore::Row::bolds, row, column); }
-void Listbox::SetCellBold(int row, int column, bool bold) { setCellFlag(&RowStore::Row::bolds, row, column, bold); }
-bool Listbox::CellItalic(int row, int column) const { return cellFlag(&RowStore::Row::italics, row, column); }
-void Listbox::SetCellItalic(int row, int column, bool italic) { setCellFlag(&RowStore::Row::italics, row, column, italic); }
-bool Listbox::CellUnderline(int row, int column) const { return cellFlag(&RowStore::Row::underlines, row, column); }
+bool Listbox::CellBold(int row, int column) const { return styled(RowStore::Style::Bold, row, column); }
+void Listbox::SetCellBold(int row, int column, bool bold) { setStyled(RowStore::Style::Bold, row, column, bold); }
+bool Listbox::CellItalic(int row, int column) const { return styled(RowStore::Style::Italic, row, column); }
+void Listbox::SetCellItalic(int row, int column, bool italic) { setStyled(RowStore::Style::Italic, row, column, italic); }
+bool Listbox::CellUnderline(int row, int column) const { return styled(RowStore::Style::Underline, row, column); }
 void Listbox::SetCellUnderline(int row, int column, bool underline)
 {
-    setCellFlag(&RowStore::Row::underlines, row, column, underline);
+    setStyled(RowStore::Style::Underline, row, column, underline);
 }
 
 RowPicture Listbox::rowPicture(int row) const

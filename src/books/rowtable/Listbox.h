@@ -152,8 +152,8 @@ private:
     void clearSelectionFlags();
     void recomputeFirstSelected();
     void notifySelection();
-    bool cellFlag(quint32 RowStore::Row::*flags, int row, int column) const;
-    void setCellFlag(quint32 RowStore::Row::*flags, int row, int column, bool on);
+    bool styled(RowStore::Style style, int row, int column) const;
+    void setStyled(RowStore::Style style, int row, int column, bool on);
     template <typename T> static T settingOf(const std::vector<T>& settings, int column, T fallback);
     template <typename T> static void setSetting(std::vector<T>& settings, int column, T value, T fallback);
 

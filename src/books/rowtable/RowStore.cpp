@@ -62,14 +62,18 @@ char16_t* RowStore::allocate(qsizetype units)
 
 void RowStore::place(Row& r, qsizetype size)
 {
-    r.wide = size > 0xFFFF;
+    r.startBytes = startBytesFor(size);
     r.size = quint32(size);
     r.entry = allocate(unitsOf(r));
 }
 
 void RowStore::setStart(Row& r, int index, qsizetype start)
 {
-    if (!r.wide) {
+    if (r.startBytes == 1) {
+        reinterpret_cast<quint8*>(r.entry)[index] = quint8(start);
+        return;
+    }
+    if (r.startBytes == 2) {
         r.entry[index] = char16_t(start);
         return;
     }
@@ -110,7 +114,7 @@ void RowStore::assign(int row, int column, QStringView text)
     const qsizetype end = column < columnCount_ ? startOf(r, column) - kSeparator.size() : r.size;
     const qsizetype delta = text.size() - (end - start);
     const qsizetype size = r.size + delta;
-    if (delta <= 0 && r.wide == (size > 0xFFFF)) {
+    if (delta <= 0 && r.startBytes == startBytesFor(size)) {
         // Shorter or as long: in place, the rest of the row moving forward.
         char16_t* own = const_cast<char16_t*>(textOf(r));
         std::copy_n(text.utf16(), text.size(), own + start);
@@ -134,6 +138,25 @@ void RowStore::assign(int row, int column, QStringView text)
     compactIfWasteful();
 }
 
+bool RowStore::styled(int row, Style style, int column) const
+{
+    const quint32 at = rows_[row].styles;
+    return at != 0 && (styles_[at - 1].bits[int(style)] >> column & 1u);
+}
+
+void RowStore::setStyled(int row, Style style, int column, bool on)
+{
+    Row& r = rows_[row];
+    if (r.styles == 0) {
+        if (!on)
+            return;
+        styles_.emplace_back();
+        r.styles = quint32(styles_.size());
+    }
+    quint32& bits = styles_[r.styles - 1].bits[int(style)];
+    bits = on ? bits | 1u << column : bits & ~(1u << column);
+}
+
 void RowStore::release(int first, int last)
 {
     for (int row = first; row <= last; ++row)
@@ -142,7 +165,13 @@ void RowStore::release(int first, int last)
 
 void RowStore::append(RowStore&& other)
 {
-    rows_.insert(rows_.end(), other.rows_.begin(), other.rows_.end());
+    const auto firstNew = rows_.insert(rows_.end(), other.rows_.begin(), other.rows_.end());
+    for (auto r = firstNew; r != rows_.end(); ++r) {
+        if (r->styles != 0) {
+            styles_.push_back(other.styles_[r->styles - 1]);
+            r->styles = quint32(styles_.size());
+        }
+    }
     // The other's blocks come along as they are; the rows point into them.
     // What was left of this store's last block stays usable: new rows go to the
     // other's last block, and this one's rest counts as unused.
@@ -160,6 +189,7 @@ void RowStore::append(RowStore&& other)
 void RowStore::clear()
 {
     rows_.clear();
+    styles_.clear();
     blocks_.clear();
     free_ = nullptr;
     left_ = 0;

@@ -18,24 +18,24 @@
 // then the hidden cell one place past the last column:
 //     "" | "Cash" | "1200.00"   is stored as   "@#@Cash@#@1200.00@#@"
 // so a save writes each row's text as it stands. Before the text stand the
-// starts of the cells after the first: 16 bits each, or 32 for a row longer
-// than 65,535 characters. A row whose text grows moves to new space; the space
+// starts of the cells after the first: a byte each in a row of up to 255
+// characters, else 16 bits, or 32 for a row longer than 65,535 characters. A row whose text grows moves to new space; the space
 // it leaves is reclaimed once more than half of all space is such.
 class RowStore {
 public:
     static constexpr QStringView kSeparator = u"@#@";
 
+    // 24 bytes: a million rows are 24 MB beside their text.
     struct Row {
         char16_t* entry = nullptr; // the starts, then the text
         quint32 size = 0;          // characters of text
         quint32 checks = 0;        // one bit a column
-        quint32 bolds = 0;
-        quint32 italics = 0;
-        quint32 underlines = 0;
+        quint32 styles = 0;        // 1 + its place in the styles of the store; 0: none
         RowPicture picture = RowPicture::None;
         bool selected = false;
-        bool wide = false; // starts of 32 bits
+        quint8 startBytes = 1; // the size of each start
     };
+    enum class Style { Bold, Italic, Underline };
 
     explicit RowStore(int columnCount);
     RowStore(RowStore&&) noexcept = default;
@@ -70,6 +70,10 @@ public:
     // Puts other's rows after these; other is left empty.
     void append(RowStore&& other);
     void clear();
+    // Bold, italic and underlined cells, rare enough to be kept aside: one bit
+    // a column, for columns below 32.
+    bool styled(int row, Style style, int column) const;
+    void setStyled(int row, Style style, int column, bool on);
     // Room for this many rows without moving the others: address space only,
     // until rows fill it.
     void reserve(int rows) { rows_.reserve(size_t(rows)); }
@@ -81,16 +85,23 @@ private:
     using Block = std::unique_ptr<char16_t[], FreeBlock>;
     static Block newBlock(qsizetype units);
 
+    struct Styles {
+        quint32 bits[3] = {};
+    };
+    static quint8 startBytesFor(qsizetype size) { return size <= 0xFF ? 1 : size <= 0xFFFF ? 2 : 4; }
     qsizetype startOf(const Row& r, int index) const
     {
-        if (!r.wide)
+        if (r.startBytes == 1)
+            return reinterpret_cast<const quint8*>(r.entry)[index];
+        if (r.startBytes == 2)
             return r.entry[index];
         quint32 start;
         std::memcpy(&start, r.entry + 2 * index, sizeof start);
         return start;
     }
-    const char16_t* textOf(const Row& r) const { return r.entry + (r.wide ? 2 : 1) * columnCount_; }
-    qsizetype unitsOf(const Row& r) const { return (r.wide ? 2 : 1) * columnCount_ + r.size; }
+    qsizetype startUnits(const Row& r) const { return (columnCount_ * r.startBytes + 1) / 2; }
+    const char16_t* textOf(const Row& r) const { return r.entry + startUnits(r); }
+    qsizetype unitsOf(const Row& r) const { return startUnits(r) + r.size; }
     // A new entry for size characters of text, its starts still to be written.
     void place(Row& r, qsizetype size);
     void setStart(Row& r, int index, qsizetype start);
@@ -100,6 +111,7 @@ private:
     int columnCount_;
     std::vector<Row> rows_;
     std::vector<Block> blocks_;
+    std::vector<Styles> styles_;
     char16_t* free_ = nullptr;
     qsizetype left_ = 0;
     qsizetype nextBlock_ = 1024;
