@@ -4,7 +4,6 @@
 #include "engine/RowLayouts.h"
 #include "engine/ui/TransactionWindow.h"
 #include "mainwindow/SummaryWindowFixture.h"
-#include "mainwindow/Toolbar1.h"
 #include "reports/ui/indAccWindow.h"
 #include "support/PdfReading.h"
 #include "widgets/AutoButton.h"
@@ -25,34 +24,23 @@ protected:
     // "  Shop": Rent's transactions at rows 0, 2, 4 and 5 of transBox, Sales's at 1 and 3.
     IndAccWindowTest()
     {
-        writeLedgers();
-        writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
-                                                            "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n"
-                                                            "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(home.books() + u"/  ShopTransData"_s,
-                   "@#@Rent@#@2014-01-09@#@r0@#@@#@-10@#@@#@-10.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Rent@#@2014-02-09@#@r2@#@@#@-20@#@@#@-20.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Sales@#@2014-02-10@#@s3@#@@#@7@#@@#@7.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@rent@#@2014-03-09@#@r4@#@@#@-40@#@@#@-40.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Rent@#@2014-04-09@#@r5@#@@#@-50@#@@#@-50.00@#@@#@@#@@#@Never@#@\n");
-        window = shownWindow();
-        window->LedgerList().SetListIndex(0);
+        window = openShop("@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
+                          "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n"
+                          "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n",
+                          "@#@Rent@#@2014-01-09@#@r0@#@@#@-10@#@@#@-10.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Rent@#@2014-02-09@#@r2@#@@#@-20@#@@#@-20.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Sales@#@2014-02-10@#@s3@#@@#@7@#@@#@7.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@rent@#@2014-03-09@#@r4@#@@#@-40@#@@#@-40.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Rent@#@2014-04-09@#@r5@#@@#@-50@#@@#@-50.00@#@@#@@#@@#@Never@#@\n");
         window->books().calcAll();
         window->accountsBox().SetListIndex(1);
-        QTest::mouseClick(window->Toolbar11->widgetForAction(window->Toolbar11->item(u"Transactions"_s)),
-                          Qt::LeftButton);
+        press(window, u"Transactions"_s);
         account = Windows::indAccWindow();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(account));
     }
 
-    QStringList descriptions() const
-    {
-        QStringList texts;
-        for (int row = 0; row < account->ListBox1Table.ListCount(); ++row)
-            texts << account->ListBox1Table.Cell(row, TransCol::Description);
-        return texts;
-    }
+    QStringList descriptions() const { return columnOf(account->ListBox1Table, TransCol::Description); }
 
     // Whether add, delete and edit are on.
     bool editable() const
