@@ -143,16 +143,6 @@ TEST_F(TransactionWindowTest, TheGstButtonAddsATaxRowBesideTheWithdrawal)
     dialog = editRow(1);
     EXPECT_EQ(dialog->PopupMenu1->currentText(), u"Select account");
     EXPECT_FALSE(dialog->PushButton1->isEnabled());
-    QTest::mouseClick(dialog->PushButton2, Qt::LeftButton);
-
-    // The GST button while editing keeps the edited row and adds a tax row.
-    dialog = editRow(0);
-    QTest::keyClicks(dialog->EditField5, u"2"_s);
-    QTest::mouseClick(dialog->RadioButton2, Qt::LeftButton); // a revenue account opens on Deposit
-    QTest::mouseClick(dialog->Canvas1, Qt::LeftButton, {}, QPoint(30, 30));
-    ASSERT_EQ(window->transBox().ListCount(), 3);
-    EXPECT_EQ(window->transBox().Cell(0, TransCol::Transaction), u"-107.00");
-    EXPECT_EQ(window->transBox().Cell(2, TransCol::Account), u"GST");
 }
 
 TEST_F(TransactionWindowTest, TheTransferPreviewCountsFromTheBalancesAtSelection)

@@ -66,12 +66,10 @@ TEST_F(IndAccWindowTest, TheAccountsLinesAndBalanceAndDeletingTheSelectedOnes)
     EXPECT_EQ(account->Label3->text(), u"-120.00") << "the account's balance";
 
     account->ListBox1Table.setSelectedRows({1, 3});
-    QTest::mouseClick(account->Canvas2, Qt::LeftButton); // cancelled
-    ASSERT_EQ(platform.dialogs.size(), 1u);
-    EXPECT_EQ(platform.dialogs[0].Message, u"Are you sure you want to delete the selected transaction(s)?");
-    EXPECT_EQ(descriptions().size(), 4);
     platform.answerNextDialog(MessageDialog::Button::Action);
     QTest::mouseClick(account->Canvas2, Qt::LeftButton);
+    ASSERT_EQ(platform.dialogs.size(), 1u);
+    EXPECT_EQ(platform.dialogs[0].Message, u"Are you sure you want to delete the selected transaction(s)?");
     EXPECT_EQ(descriptions(), (QStringList{u"r0"_s, u"r4"_s}));
     EXPECT_EQ(window->transBox().ListCount(), 4);
     EXPECT_EQ(account->Label3->text(), u"-50.00") << "the balance recalculated";
