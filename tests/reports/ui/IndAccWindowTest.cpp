@@ -77,23 +77,23 @@ TEST_F(IndAccWindowTest, TheAccountsLinesAndBalanceAndDeletingTheSelectedOnes)
 
 TEST_F(IndAccWindowTest, ApplyNarrowsTheListAndShowAllBringsItBack)
 {
+    const auto apply = [&](QDate from, QDate to) {
+        account->DateControl1->setDateValue(QDateTime(from, QTime(9, 0)));
+        account->DateControl2->setDateValue(QDateTime(to, QTime(9, 0)));
+        account->PushButton1->click();
+    };
     // Equal dates: nothing changes.
-    account->DateControl1->setDateValue(QDateTime(QDate(2014, 2, 1), QTime(9, 0)));
-    account->DateControl2->setDateValue(QDateTime(QDate(2014, 2, 1), QTime(9, 0)));
-    account->PushButton1->click();
+    apply(QDate(2014, 2, 1), QDate(2014, 2, 1));
     EXPECT_EQ(account->Label3->text(), u"-120.00");
     EXPECT_TRUE(editable());
 
     // A range that keeps everything: the buttons stay on, the label is the sum.
-    account->DateControl1->setDateValue(QDateTime(QDate(2013, 12, 31), QTime(9, 0)));
-    account->DateControl2->setDateValue(QDateTime(QDate(2014, 4, 9), QTime(9, 0)));
-    account->PushButton1->click();
+    apply(QDate(2013, 12, 31), QDate(2014, 4, 9));
     EXPECT_EQ(account->Label3->text(), u"-120");
     EXPECT_TRUE(editable());
 
     // Lines go: add, edit and delete go off, printing stays.
-    account->DateControl1->setDateValue(QDateTime(QDate(2014, 2, 9), QTime(9, 0)));
-    account->PushButton1->click();
+    apply(QDate(2014, 2, 9), QDate(2014, 4, 9));
     EXPECT_EQ(descriptions(), (QStringList{u"r4"_s, u"r5"_s}));
     EXPECT_EQ(account->Label3->text(), u"-90");
     EXPECT_FALSE(editable());
