@@ -40,16 +40,12 @@ protected:
 
 TEST_F(VersionCheckTest, TheFileOffersOnlyAGreaterVersionAndIsKeptOnlyWhenItsFirstLineIsEmpty)
 {
-    // The comparison numbers join the digits, padded to three.
-    const std::pair<QString, double> numbers[] = {{u"2.4.4"_s, 244}, {u"2.5"_s, 250}, {u"3"_s, 300}, {u"2.4.10"_s, 2410},
-                                                  {u""_s, 0},        {u"2.x"_s, 2},    {u"99999999999999999999"_s, 1e20}};
-    for (const auto& [version, number] : numbers)
-        EXPECT_EQ(VersionCheck::comparisonNumber(version), number) << version.toStdString();
-
     const QString offer = u"There is a newer version of Quillmark Pro available. Would you like to download it now?"_s;
+    // The versions compare as their digits joined, padded to three: 2.10 is 210.
     const std::tuple<QByteArray, bool, QString> cases[] = {
         {"Quillmark Pro\n2.4.5\n", false, offer}, {"Quillmark Pro\r\n2.10\r\n", false, {}},
         {"Quillmark Pro\r3\r", false, offer},     {"Quillmark Pro\n2.4.4\n", false, {}},
+        {"Quillmark Pro\n2.5", false, offer},      {"Quillmark Pro\n99999999999999999999", false, offer},
         {"Quillmark Pro", false, {}},             {"\n9.9.9\n", true, {}},
         {"", true, {}},                           {"\x89PNG\r\n\x1a\n\0\0\xff", false, {}},
     };
