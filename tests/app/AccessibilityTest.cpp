@@ -98,32 +98,30 @@ bool readBefore(const QRect& first, const QRect& second)
 QMultiMap<QString, QString> shortcutsOf(QWidget* window)
 {
     QMultiMap<QString, QString> keys;
-    auto add = [&](const QList<QKeySequence>& sequences, const QString& owner) {
-        for (const QKeySequence& key : sequences)
-            if (!key.isEmpty())
-                keys.insert(key.toString(), owner);
+    const auto add = [&](const QKeySequence& key, const QString& owner) {
+        if (!key.isEmpty())
+            keys.insert(key.toString(), owner);
     };
     for (QAction* action : window->findChildren<QAction*>())
-        if (ownedBy(action, window))
-            add(action->shortcuts(), action->objectName().isEmpty() ? action->text() : action->objectName());
+        for (const QKeySequence& key : ownedBy(action, window) ? action->shortcuts() : QList<QKeySequence>())
+            add(key, action->objectName().isEmpty() ? action->text() : action->objectName());
     for (QShortcut* shortcut : window->findChildren<QShortcut*>())
-        if (ownedBy(shortcut, window))
-            add(shortcut->keys(), shortcut->objectName().isEmpty() ? u"QShortcut"_s : shortcut->objectName());
+        for (const QKeySequence& key : ownedBy(shortcut, window) ? shortcut->keys() : QList<QKeySequence>())
+            add(key, u"QShortcut "_s + shortcut->objectName());
     for (QWidget* widget : window->findChildren<QWidget*>()) {
-        QStringList texts;
         if (widget->window() != window)
             continue;
-        if (auto* button = qobject_cast<QAbstractButton*>(widget))
-            texts << button->text();
-        else if (auto* box = qobject_cast<QGroupBox*>(widget))
-            texts << box->title();
-        else if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
-            texts << label->text();
-        else if (auto* bar = qobject_cast<QMenuBar*>(widget))
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        auto* box = qobject_cast<QGroupBox*>(widget);
+        auto* label = qobject_cast<QLabel*>(widget);
+        add(QKeySequence::mnemonic(button ? button->text()
+                                   : box  ? box->title()
+                                   : label && label->buddy() ? label->text()
+                                                             : QString()),
+            describe(widget));
+        if (auto* bar = qobject_cast<QMenuBar*>(widget))
             for (QAction* title : bar->actions())
-                add({QKeySequence::mnemonic(title->text())}, title->text());
-        for (const QString& text : texts)
-            add({QKeySequence::mnemonic(text)}, describe(widget));
+                add(QKeySequence::mnemonic(title->text()), title->text());
     }
     return keys;
 }
