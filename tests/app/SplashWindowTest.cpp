@@ -49,7 +49,7 @@ TEST_F(SplashWindowTest, TheMainWindowFollowsAfterASecondWhileTheServerIsSilentA
     QPointer<SplashWindow> splash = Windows::SplashWindow();
     splash->show();
     EXPECT_TRUE(QTest::qWaitFor([&] { return server->asked.size() == 1; }));
-    EXPECT_EQ(server->asked.front(), "/mirror/VersionInfo/QuillmarkVersion.txt");
+    EXPECT_EQ(server->asked.value(0), "/mirror/VersionInfo/QuillmarkVersion.txt");
     EXPECT_FALSE(splash->StaticText11->isHidden());
     EXPECT_FALSE(Windows::SummaryWindow()->isVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 3000));
