@@ -31,13 +31,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString describe(const QWidget* widget)
+QString accessibleName(QWidget* widget)
 {
-    if (!widget->objectName().isEmpty())
-        return widget->objectName();
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
-    return QString::fromUtf8(widget->metaObject()->className()) + u" \""_s
-           + (face ? face->text(QAccessible::Name) : QString()) + u'"';
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+    return face ? face->text(QAccessible::Name).trimmed() : QString();
+}
+
+QString describe(QWidget* widget)
+{
+    return widget->objectName().isEmpty()
+               ? QString::fromUtf8(widget->metaObject()->className()) + u" \""_s + accessibleName(widget) + u'"'
+               : widget->objectName();
 }
 
 // Whether object belongs to window itself (its menus included), not to a
@@ -56,19 +60,16 @@ bool ownedBy(const QObject* object, const QWidget* window)
 // field, a list's editor) is part of it; Qt's own helpers ("qt_...") are not.
 bool isControl(const QWidget* widget)
 {
-    if (widget->objectName().startsWith("qt_"_L1))
-        return false;
-    return (widget->focusPolicy() & Qt::TabFocus) || qobject_cast<const QAbstractButton*>(widget)
-           || qobject_cast<const AutoButton*>(widget) || qobject_cast<const QAbstractItemView*>(widget);
+    return !widget->objectName().startsWith("qt_"_L1)
+           && ((widget->focusPolicy() & Qt::TabFocus) || qobject_cast<const QAbstractButton*>(widget)
+               || qobject_cast<const AutoButton*>(widget) || qobject_cast<const QAbstractItemView*>(widget));
 }
 
 QList<QWidget*> controlsOf(QWidget* window)
 {
     QList<QWidget*> controls;
     for (QWidget* widget : window->findChildren<QWidget*>()) {
-        if (!widget->isVisible() || widget->window() != window || !isControl(widget))
-            continue;
-        bool inner = false;
+        bool inner = !widget->isVisible() || widget->window() != window || !isControl(widget);
         for (QWidget* up = widget->parentWidget(); up && up != window && !inner; up = up->parentWidget())
             inner = qobject_cast<QAbstractItemView*>(up) || qobject_cast<QAbstractSpinBox*>(up)
                     || qobject_cast<QComboBox*>(up) || (up->focusPolicy() & Qt::TabFocus && isControl(up));
@@ -76,12 +77,6 @@ QList<QWidget*> controlsOf(QWidget* window)
             controls << widget;
     }
     return controls;
-}
-
-QString accessibleName(QWidget* widget)
-{
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
-    return face ? face->text(QAccessible::Name).trimmed() : QString();
 }
 
 // Reading order: down a column, and left to right along a row. Two controls are
@@ -92,10 +87,8 @@ bool readBefore(const QRect& first, const QRect& second)
 {
     const bool sameColumn = first.left() <= second.right() && second.left() <= first.right();
     const bool sameRow = first.top() <= second.bottom() && second.top() <= first.bottom();
-    if (sameColumn && !sameRow)
-        return first.bottom() < second.top();
-    if (sameRow && !sameColumn)
-        return first.right() < second.left();
+    if (sameColumn != sameRow)
+        return sameColumn ? first.bottom() < second.top() : first.right() < second.left();
     return true;
 }
 
@@ -105,32 +98,30 @@ bool readBefore(const QRect& first, const QRect& second)
 QMultiMap<QString, QString> shortcutsOf(QWidget* window)
 {
     QMultiMap<QString, QString> keys;
-    auto mnemonic = [&](const QString& text, const QString& owner) {
-        if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty())
+    const auto add = [&](const QKeySequence& key, const QString& owner) {
+        if (!key.isEmpty())
             keys.insert(key.toString(), owner);
     };
-    for (QAction* action : window->findChildren<QAction*>()) {
-        if (!ownedBy(action, window))
-            continue;
-        const QString owner = action->objectName().isEmpty() ? action->text() : action->objectName();
-        for (const QKeySequence& key : action->shortcuts())
-            keys.insert(key.toString(), owner);
-    }
+    for (QAction* action : window->findChildren<QAction*>())
+        for (const QKeySequence& key : ownedBy(action, window) ? action->shortcuts() : QList<QKeySequence>())
+            add(key, action->objectName().isEmpty() ? action->text() : action->objectName());
     for (QShortcut* shortcut : window->findChildren<QShortcut*>())
         for (const QKeySequence& key : ownedBy(shortcut, window) ? shortcut->keys() : QList<QKeySequence>())
-            keys.insert(key.toString(), shortcut->objectName().isEmpty() ? u"QShortcut"_s : shortcut->objectName());
+            add(key, u"QShortcut "_s + shortcut->objectName());
     for (QWidget* widget : window->findChildren<QWidget*>()) {
         if (widget->window() != window)
             continue;
-        if (auto* button = qobject_cast<QAbstractButton*>(widget))
-            mnemonic(button->text(), describe(button));
-        else if (auto* box = qobject_cast<QGroupBox*>(widget))
-            mnemonic(box->title(), describe(box));
-        else if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
-            mnemonic(label->text(), describe(label));
-        else if (auto* bar = qobject_cast<QMenuBar*>(widget))
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        auto* box = qobject_cast<QGroupBox*>(widget);
+        auto* label = qobject_cast<QLabel*>(widget);
+        add(QKeySequence::mnemonic(button ? button->text()
+                                   : box  ? box->title()
+                                   : label && label->buddy() ? label->text()
+                                                             : QString()),
+            describe(widget));
+        if (auto* bar = qobject_cast<QMenuBar*>(widget))
             for (QAction* title : bar->actions())
-                mnemonic(title->text(), title->text());
+                add(QKeySequence::mnemonic(title->text()), title->text());
     }
     return keys;
 }
@@ -150,13 +141,11 @@ QStringList problemsOf(QWidget* window)
         if (controls.contains(next) && (next->focusPolicy() & Qt::TabFocus))
             chain << next;
     for (qsizetype i = 0; i < chain.size(); ++i)
-        for (qsizetype j = i + 1; j < chain.size(); ++j) {
-            const QRect early(chain[i]->mapTo(window, QPoint()), chain[i]->size());
-            const QRect late(chain[j]->mapTo(window, QPoint()), chain[j]->size());
-            if (!readBefore(early, late))
+        for (qsizetype j = i + 1; j < chain.size(); ++j)
+            if (!readBefore(QRect(chain[i]->mapTo(window, QPoint()), chain[i]->size()),
+                            QRect(chain[j]->mapTo(window, QPoint()), chain[j]->size())))
                 problems << where + describe(chain[j]) + " is read before "_L1 + describe(chain[i])
                                 + " but tabbed to after it"_L1;
-        }
 
     const QMultiMap<QString, QString> keys = shortcutsOf(window);
     for (const QString& key : keys.uniqueKeys())

@@ -2,6 +2,7 @@
 #include "mainwindow/SummaryWindowFixture.h"
 #include "support/LocalHttpServer.h"
 #include "update/StartupGlobals.h"
+#include "update/VersionCheck.h"
 #include "update/ui/newVersionWindow.h"
 #include "widgets/ProgressWheel.h"
 
@@ -12,22 +13,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The update server of the test's run: answers every request with body, or keeps
-// silent.
-class UpdateServer : public LocalHttpServer {
-public:
-    explicit UpdateServer(const QByteArray& body)
-        : LocalHttpServer([body](const QByteArray&) { return body.isEmpty() ? body : httpResponse("200 OK", body); })
-    {
-        qputenv("QUILLMARK_SERVER", url(u"/mirror/"_s).toUtf8());
-    }
-    ~UpdateServer() { qunsetenv("QUILLMARK_SERVER"); }
-};
-
+// The start screen with the update server of the test's run: it answers every
+// request with body, or keeps silent.
 class SplashWindowTest : public SummaryWindowTest {
 protected:
     SplashWindowTest() { writeLedgers(); }
-    ~SplashWindowTest() override { StartupGlobals::AppStoreVersion = false; }
+    ~SplashWindowTest() override
+    {
+        StartupGlobals::AppStoreVersion = false;
+        qunsetenv("QUILLMARK_SERVER");
+    }
+
+    void serve(const QByteArray& body)
+    {
+        server.emplace([body](const QByteArray&) { return body.isEmpty() ? body : httpResponse("200 OK", body); });
+        qputenv("QUILLMARK_SERVER", server->url(u"/mirror/"_s).toUtf8());
+    }
 
     static newVersionWindow* offer()
     {
@@ -36,49 +37,45 @@ protected:
                 return found;
         return nullptr;
     }
+
+    std::optional<LocalHttpServer> server;
 };
 
 } // namespace
 
-TEST_F(SplashWindowTest, TheMainWindowFollowsAfterASecondWhileTheServerIsSilent)
+TEST_F(SplashWindowTest, TheMainWindowFollowsAfterASecondWhileTheServerIsSilentAndAnAppStoreBuildAsksNothing)
 {
-    UpdateServer silent({});
+    serve({});
     QPointer<SplashWindow> splash = Windows::SplashWindow();
     splash->show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return server->asked.size() == 1; }));
+    EXPECT_EQ(server->asked.value(0), "/mirror/VersionInfo/QuillmarkVersion.txt");
     EXPECT_FALSE(splash->StaticText11->isHidden());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return silent.asked.size() == 1; }));
-    EXPECT_EQ(silent.asked.front(), "/mirror/VersionInfo/QuillmarkVersion.txt");
     EXPECT_FALSE(Windows::SummaryWindow()->isVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 3000));
     EXPECT_TRUE(Windows::SummaryWindow()->isVisible());
-    EXPECT_EQ(offer(), nullptr);
-    EXPECT_TRUE(platform.messages.isEmpty());
-}
 
-TEST_F(SplashWindowTest, AnAppStoreBuildAsksNothingAndSaysNothingOfIt)
-{
-    UpdateServer newer("Quillmark\n9\n");
     StartupGlobals::AppStoreVersion = true;
-    QPointer<SplashWindow> splash = Windows::SplashWindow();
+    splash = Windows::SplashWindow();
     splash->show();
     EXPECT_TRUE(splash->StaticText11->isHidden());
     EXPECT_TRUE(splash->ProgressWheel1->isHidden());
     EXPECT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 3000));
-    EXPECT_TRUE(newer.asked.isEmpty());
+    EXPECT_EQ(server->asked.size(), 1);
     EXPECT_EQ(offer(), nullptr);
+    EXPECT_TRUE(platform.messages.isEmpty());
 }
 
 TEST_F(SplashWindowTest, ANewerVersionIsOfferedAndDownloadNowHandsItsAddressToTheBrowser)
 {
-    UpdateServer newer("Quillmark Pro\n2.5\n");
+    serve("Quillmark Pro\n2.5\n");
     Windows::SplashWindow()->show();
     ASSERT_TRUE(QTest::qWaitFor([&] { return offer() != nullptr; }));
     QPointer<newVersionWindow> window = offer();
-    EXPECT_EQ(window->StaticText1->text(),
-              u"There is a newer version of Quillmark Pro available. Would you like to download it now?"_s);
+    EXPECT_EQ(window->StaticText1->text(), VersionCheck::offerText(u"Quillmark Pro"_s));
     EXPECT_EQ(window->size(), QSize(457, 147));
     QTest::keyClick(window, Qt::Key_Return);
-    EXPECT_EQ(platform.urls, QStringList{newer.url(u"/mirror/fernwright.zip"_s)});
+    EXPECT_EQ(platform.urls, QStringList{server->url(u"/mirror/fernwright.zip"_s)});
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
 
     Windows::SplashWindow()->Event_Open(); // a second check, a second offer

@@ -4,7 +4,7 @@
 #include "support/DataFolder.h"
 #include "support/PdfReading.h"
 
-#include <QDirIterator>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
@@ -59,15 +59,7 @@ protected:
     // The data folder, on a day before the monthly row falls due.
     QStringList data() const { return {u"--data"_s, home.path(), u"--today"_s, u"2014-03-31"_s}; }
 
-    QMap<QString, QByteArray> files() const
-    {
-        QMap<QString, QByteArray> all;
-        for (QDirIterator file(home.path(), QDir::Files, QDirIterator::Subdirectories); file.hasNext();) {
-            const QString path = file.next();
-            all.insert(path, readBytes(path));
-        }
-        return all;
-    }
+    QMap<QString, QByteArray> files() const { return entriesUnder(home.path()); }
 
     // A command (its words split at blanks) that succeeds; gives what it printed.
     QString done(const QString& command) const

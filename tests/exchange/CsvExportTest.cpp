@@ -3,6 +3,7 @@
 #include "engine/RowLayouts.h"
 #include "exchange/CsvExport.h"
 #include "exchange/TransactionImport.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/QtPrinters.h"
 
@@ -12,29 +13,14 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void addRow(Listbox& transactions, const QString& account, const QString& date, const QString& description,
-            const QString& total)
-{
-    transactions.AddRow();
-    const int row = transactions.LastIndex();
-    transactions.SetCell(row, TransCol::Account, account);
-    transactions.SetCell(row, TransCol::Date, date);
-    transactions.SetCell(row, TransCol::Description, description);
-    transactions.SetCell(row, TransCol::Transaction, total);
-}
-
-} // namespace
-
 TEST(CsvExportTest, RecordsByteForByteThatTheDefaultMappingReadsBack)
 {
     Listbox transactions(u"transBox"_s, TransCol::Count);
     EXPECT_EQ(exportRecords(transactions), "Account,Transaction Type,Date Posted,Transaction Amount,Description\r\n")
         << "the header alone, a carriage return before its line end";
-    addRow(transactions, u"Office"_s, u"2014-03-05"_s, u"Paper"_s, u"-12.50"_s);
-    addRow(transactions, u"Sales"_s, u"1999-12-31"_s, u"Invoice 7"_s, u"1234.00"_s);
-    addRow(transactions, u"Rent"_s, u"2014-02-01"_s, u""_s, u"-800"_s);
+    // Account, date, description and total.
+    addRows(transactions, {u"|Office|2014-03-05|Paper||||-12.50"_s, u"|Sales|1999-12-31|Invoice 7||||1234.00"_s,
+                           u"|Rent|2014-02-01|||||-800"_s});
     const ImportPlan back = planImport(exportRecords(transactions), ImportMapping(), Listbox(u"t"_s, TransCol::Count));
     ASSERT_EQ(back.rows.size(), 3u) << back.refusal.toStdString();
     for (int row = 0; row < 3; ++row) {
@@ -44,9 +30,8 @@ TEST(CsvExportTest, RecordsByteForByteThatTheDefaultMappingReadsBack)
         EXPECT_EQ(back.rows[row].amount, transactions.Cell(row, TransCol::Transaction));
     }
 
-    addRow(transactions, u"Sales"_s, u"2014-12-25"_s, u" Invoice 7, paid "_s, u"100.00 "_s);
-    addRow(transactions, u"GST"_s, u"2014-3-5"_s, u""_s, u""_s);
-    addRow(transactions, u"Caf\u00e9"_s, u"someday"_s, u"x"_s, u" -0"_s);
+    addRows(transactions, {u"|Sales|2014-12-25| Invoice 7, paid ||||100.00 "_s, u"|GST|2014-3-5"_s,
+                           u"|Caf\u00e9|someday|x|||| -0"_s});
     EXPECT_EQ(exportRecords(transactions),
               "Account,Transaction Type,Date Posted,Transaction Amount,Description\r\n"
               "Office,DEBIT,20140305,-12.50,Paper\n"
@@ -66,7 +51,7 @@ TEST(CsvExportTest, TheFileEndsInCsvAndNoFileIsWrittenOver)
 
     QTemporaryDir folder;
     Listbox transactions(u"transBox"_s, TransCol::Count);
-    addRow(transactions, u"Office"_s, u"2014-03-05"_s, u"Paper"_s, u"-12.50"_s);
+    addRows(transactions, {u"|Office|2014-03-05|Paper||||-12.50"_s});
     const QString chosen = folder.path() + u"/march"_s;
     EXPECT_EQ(exportData(transactions, chosen), u"");
     EXPECT_FALSE(fileExists(chosen));
@@ -74,7 +59,7 @@ TEST(CsvExportTest, TheFileEndsInCsvAndNoFileIsWrittenOver)
     EXPECT_EQ(readBytes(chosen + u".csv"_s), first);
 
     // "march.csv" is there now: the next export keeps the name chosen, and says so.
-    addRow(transactions, u"Sales"_s, u"2014-03-06"_s, u"More"_s, u"1.00"_s);
+    addRows(transactions, {u"|Sales|2014-03-06|More||||1.00"_s});
     const QString problem = exportData(transactions, chosen);
     EXPECT_TRUE(problem.contains(u"\"march\"")) << problem.toStdString();
     EXPECT_EQ(readBytes(chosen + u".csv"_s), first);

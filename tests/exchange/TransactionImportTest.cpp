@@ -2,6 +2,7 @@
 #include "books/rowtable/Listbox.h"
 #include "engine/RowLayouts.h"
 #include "exchange/TransactionImport.h"
+#include "support/Cells.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -85,13 +86,7 @@ TEST_F(TransactionImportTest, AnyRecordThatCantBeReadRefusesTheWholeFileNamingIt
 TEST_F(TransactionImportTest, DuplicatesMatchLedgerRowsOneToOne)
 {
     // Two such rows in the ledger, three in the file: the third is new.
-    for (int i = 0; i < 2; ++i) {
-        ledger.AddRow();
-        ledger.SetCell(i, TransCol::Account, u"rent"_s);
-        ledger.SetCell(i, TransCol::Date, u"2014-03-05"_s);
-        ledger.SetCell(i, TransCol::Description, u"MARCH"_s);
-        ledger.SetCell(i, TransCol::Transaction, u"-800,00"_s);
-    }
+    addRows(ledger, {u"|rent|2014-03-05|MARCH||||-800,00"_s, u"|rent|2014-03-05|MARCH||||-800,00"_s});
     const ImportPlan found = plan("h\n05.03.2014;March;-800\n05.03.2014;March;-800.00\n05.03.2014;march;-800\n"
                                   "05.03.2014;March;-80\nt\n");
     EXPECT_EQ(found.duplicates, 2);

@@ -5,6 +5,7 @@
 #include "ledger/SummaryBooks.h"
 #include "ledger/TransactionOperations.h"
 #include "reports/AccountTransactions.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
@@ -36,14 +37,6 @@ protected:
         writeBytes(home.books() + u"/  ShopAccountData"_s,
                    "@#@Balance@#@@#@100@#@@#@@#@@#@\n@#@Rent@#@Expense@#@0@#@@#@@#@@#@\n@#@Sales@#@Revenue@#@0@#@@#@@#@@#@\n");
         return true;
-    }
-
-    static QStringList cells(const Listbox& table, int column)
-    {
-        QStringList texts;
-        for (int row = 0; row < table.ListCount(); ++row)
-            texts << table.Cell(row, column);
-        return texts;
     }
 
     TempDataHome home;
@@ -90,8 +83,8 @@ TEST_F(AccountListOperationsTest, DeletingLinesTakesTheirRowsAndLowersTheLinksAf
 
     platform.answerNextDialog(MessageDialog::Button::Action);
     EXPECT_TRUE(TransactionOperations(books).deleteAccountListLines(list));
-    EXPECT_EQ(cells(books.transBox, TransCol::Description), (QStringList{u"s1"_s, u"r3"_s}));
-    EXPECT_EQ(cells(list, AccountListCol::Link), QStringList{u"1"_s});
+    EXPECT_EQ(columnOf(books.transBox, TransCol::Description), (QStringList{u"s1"_s, u"r3"_s}));
+    EXPECT_EQ(columnOf(list, AccountListCol::Link), QStringList{u"1"_s});
     EXPECT_EQ(readBytes(transPath),
               QByteArray("@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5.00@#@3472156800@#@@#@@#@Never@#@\n"
                          "@#@rent@#@2014-03-09@#@r3@#@@#@-40@#@@#@-40.00@#@3477168000@#@@#@@#@Never@#@\n"))
@@ -104,5 +97,5 @@ TEST_F(AccountListOperationsTest, ALinkFallsByOneForASingleRowRemovedBelowIt)
     list.setSelectedRows({1});
     platform.answerNextDialog(MessageDialog::Button::Action);
     EXPECT_TRUE(TransactionOperations(books).deleteAccountListLines(list));
-    EXPECT_EQ(cells(list, AccountListCol::Link), (QStringList{u"0"_s, u"2"_s}));
+    EXPECT_EQ(columnOf(list, AccountListCol::Link), (QStringList{u"0"_s, u"2"_s}));
 }

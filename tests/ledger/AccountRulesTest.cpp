@@ -4,6 +4,7 @@
 #include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
 #include "ledger/TransactionOperations.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
@@ -38,14 +39,6 @@ protected:
         return AccountOperations(books).saveAccount(AccountFields{name, type, opening, notes}, checkName, row, oldName);
     }
 
-    QStringList column(const Listbox& table, int col) const
-    {
-        QStringList cells;
-        for (int row = 0; row < table.ListCount(); ++row)
-            cells << table.Cell(row, col);
-        return cells;
-    }
-
     TempDataHome home;
     const QString accountsPath = home.books() + u"/  ShopAccountData"_s;
     const QString transPath = home.books() + u"/  ShopTransData"_s;
@@ -72,7 +65,7 @@ TEST_F(AccountRulesTest, ARefusedAccountChangesNothing)
                                     save(u"Rent@#@"_s, u"Expense"_s, {}, {}, false, 2, u"Rent"_s)})
         EXPECT_TRUE(breaking.startsWith(u"An account can't hold the text \"@#@\"")) << breaking.toStdString();
 
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Sales"_s, u"Rent"_s}));
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Sales"_s, u"Rent"_s}));
     EXPECT_EQ(books.transBox.Cell(1, TransCol::Account), u"Rent");
     EXPECT_EQ(readBytes(accountsPath), accounts);
     EXPECT_EQ(readBytes(transPath), transactions);
@@ -106,9 +99,9 @@ TEST_F(AccountRulesTest, AddingAppendsTheRowByItsTypeAndStoresTheLedger)
 TEST_F(AccountRulesTest, EditingRenamesTheTransactionsAndKeepsTheRowInPlace)
 {
     EXPECT_EQ(save(u"Takings"_s, u"Revenue"_s, {}, u"the till"_s, true, 1, u"Sales"_s), u"");
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Takings"_s, u"Rent"_s}));
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Takings"_s, u"Rent"_s}));
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Opening), u"0.00") << "an empty opening after the calculation";
-    EXPECT_EQ(column(books.transBox, TransCol::Account), (QStringList{u"Takings"_s, u"Rent"_s, u"Takings"_s}))
+    EXPECT_EQ(columnOf(books.transBox, TransCol::Account), (QStringList{u"Takings"_s, u"Rent"_s, u"Takings"_s}))
         << "its transactions in any letter case";
     EXPECT_TRUE(readBytes(accountsPath).contains("\n@#@Takings@#@Revenue@#@@#@15@#@15@#@the till@#@\n"));
     EXPECT_EQ(readBytes(transPath).count("@#@Takings@#@"), 2);
@@ -126,8 +119,8 @@ TEST_F(AccountRulesTest, DeletingTakesTheRowsAndRecalculates)
     books.accountsBox.SetListIndex(1);
     platform.answerNextDialog(MessageDialog::Button::Action);
     AccountOperations(books).deleteSelectedAccount();
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Rent"_s}));
-    EXPECT_EQ(column(books.transBox, TransCol::Account), QStringList{u"Rent"_s});
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Name), (QStringList{u"Cash"_s, u"Rent"_s}));
+    EXPECT_EQ(columnOf(books.transBox, TransCol::Account), QStringList{u"Rent"_s});
     EXPECT_EQ(books.accountsBox.Cell(0, AccountCol::Balance), u"80.00");
 
     // Deleting the selected transactions recalculates too.

@@ -10,7 +10,6 @@
 #include "support/ScriptedPlatform.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -35,20 +34,6 @@ protected:
 
     QString book(const QString& name) const { return home.books() + u'/' + name; }
 
-    // Every entry below the data folder, with the bytes of the files.
-    QMap<QString, QByteArray> tree() const
-    {
-        QMap<QString, QByteArray> entries;
-        QDirIterator it(home.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                        QDirIterator::Subdirectories);
-        while (it.hasNext()) {
-            const QFileInfo info = it.nextFileInfo();
-            entries.insert(info.filePath(), info.isSymLink() ? "-> " + info.symLinkTarget().toUtf8()
-                                                : info.isFile() ? readBytes(info.filePath()) : "(entry)");
-        }
-        return entries;
-    }
-
     TempDataHome home;
     const QString bookList = home.quillmark() + u"/BookList"_s;
     QTemporaryDir outside;
@@ -62,7 +47,7 @@ TEST_F(BookFilesTest, ABadLineOfTheListStillListsAndOpeningItSaysWhy)
     // Through this link a ledger "  Shared/x" would have its files outside the folder.
     ASSERT_TRUE(QFile::link(outside.path(), book(u"  Shared"_s)));
     writeBytes(bookList, "  Shop\n  Shared/x\n");
-    const QMap<QString, QByteArray> before = tree();
+    const QMap<QString, QByteArray> before = entriesUnder(home.path());
 
     SummaryBooks books(home.books());
     books.LedgerList.SetListIndex(1);
@@ -76,7 +61,7 @@ TEST_F(BookFilesTest, ABadLineOfTheListStillListsAndOpeningItSaysWhy)
     for (const QString& message : platform.messages)
         EXPECT_TRUE(message.startsWith(u"Quillmark couldn't save the ledger \"Shared/x\": "_s));
     books.shelf.saveBooks();
-    EXPECT_EQ(tree(), before);
+    EXPECT_EQ(entriesUnder(home.path()), before);
     EXPECT_TRUE(QDir(outside.path()).isEmpty());
 }
 
@@ -89,7 +74,7 @@ TEST_F(BookFilesTest, WhatIsNoPlainFileIsNeitherReadNorWrittenThrough)
     QFile::remove(bookList);
     ASSERT_EQ(::mkfifo(QFile::encodeName(bookList).constData(), 0600), 0);
     ASSERT_TRUE(QDir().mkdir(home.path() + u"/Quillmark Preferences"_s));
-    const QMap<QString, QByteArray> before = tree();
+    const QMap<QString, QByteArray> before = entriesUnder(home.path());
 
     // None of these waits for a pipe's writer or reads through the link.
     prefsDictionary::getPreferences();
@@ -112,7 +97,7 @@ TEST_F(BookFilesTest, WhatIsNoPlainFileIsNeitherReadNorWrittenThrough)
     EXPECT_EQ(platform.messages.size(), 3);
     for (const QString& message : platform.messages)
         EXPECT_TRUE(message.contains(u"isn't written over")) << message.toStdString();
-    EXPECT_EQ(tree(), before);
+    EXPECT_EQ(entriesUnder(home.path()), before);
     EXPECT_EQ(readBytes(target), "not the ledger");
 }
 

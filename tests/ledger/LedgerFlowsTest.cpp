@@ -3,7 +3,6 @@
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
-#include <QDir>
 #include <QMap>
 
 #include <gtest/gtest.h>
@@ -34,14 +33,7 @@ protected:
     QString book(const QString& name) const { return home.books() + u'/' + name; }
     void writeBook(const QString& name, const QByteArray& bytes) const { writeBytes(book(name), bytes); }
 
-    // Everything in the folder "Quillmark", byte for byte.
-    Folder snapshot() const
-    {
-        Folder files{{u"BookList"_s, readBytes(bookList())}};
-        for (const QString& name : QDir(home.books()).entryList(QDir::Files))
-            files.insert(name, readBytes(book(name)));
-        return files;
-    }
+    Folder snapshot() const { return entriesUnder(home.path()); }
 
     QStringList ledgerNames() const
     {
@@ -121,7 +113,7 @@ TEST_F(LedgerFlowsTest, RenameMovesTheFilesOrTouchesNone)
     EXPECT_EQ(readBytes(bookList()), QByteArray("  Store\n  Home\n"));
     EXPECT_FALSE(fileExists(book(u"  ShopAccountData"_s)));
     EXPECT_FALSE(fileExists(book(u"  ShopTransData"_s)));
-    EXPECT_EQ(readBytes(book(u"  StoreAccountData"_s)), before[u"  ShopAccountData"_s].mid(3)) << "without the \"999\"";
+    EXPECT_EQ(readBytes(book(u"  StoreAccountData"_s)), before[book(u"  ShopAccountData"_s)].mid(3)) << "without the \"999\"";
     EXPECT_TRUE(readBytes(book(u"  StoreTransData"_s)).contains("Sale"));
 
     // Unchanged text, or only another case: stored again, nothing deleted.
@@ -152,9 +144,9 @@ TEST_F(LedgerFlowsTest, DeleteAsksThenRemovesTheLedgerAndItsFiles)
     EXPECT_FALSE(books.delLedger);
     EXPECT_EQ(books.accountsBox.ListCount(), 0);
     Folder after = before;
-    after.remove(u"  ShopAccountData"_s);
-    after.remove(u"  ShopTransData"_s);
-    after[u"BookList"_s] = "  Home\n";
+    after.remove(book(u"  ShopAccountData"_s));
+    after.remove(book(u"  ShopTransData"_s));
+    after[bookList()] = "  Home\n";
     EXPECT_EQ(snapshot(), after) << "nothing else is written";
 
     books.LedgerList.SetListIndex(0);

@@ -36,16 +36,6 @@ protected:
         writeGeneratedLedger(home.books(), u"  Shop"_s, LedgerShape{20, 3000, 3, false});
     }
 
-    // Every file under the data folder, byte for byte.
-    QMap<QString, QByteArray> snapshot() const
-    {
-        QMap<QString, QByteArray> files;
-        for (const QString& folder : {home.path(), home.quillmark(), home.books()})
-            for (const QString& name : QDir(folder).entryList(QDir::Files | QDir::Hidden))
-                files.insert(folder + u'/' + name, readBytes(folder + u'/' + name));
-        return files;
-    }
-
     // The books with "  Shop" open.
     std::unique_ptr<SummaryBooks> openShop() const
     {
@@ -116,12 +106,12 @@ TEST_F(SaveFailuresTest, EveryFailingStepKeepsEveryKindOfFileAsItWas)
                          + std::to_string(failure.bytes) + " bytes");
             kind.prepare();
             platform.messages.clear();
-            const QMap<QString, QByteArray> before = snapshot();
+            const QMap<QString, QByteArray> before = entriesUnder(home.path());
             {
                 const FailingSaves failing(failure.step, failure.bytes);
                 kind.save();
             }
-            EXPECT_EQ(snapshot(), before) << "the old file stays, nothing is left beside it";
+            EXPECT_EQ(entriesUnder(home.path()), before) << "the old file stays, nothing is left beside it";
             EXPECT_EQ(platform.messages, QStringList{kind.message + failure.reason + u"."_s + kind.note});
         }
     }
@@ -154,7 +144,7 @@ TEST_F(SaveFailuresTest, AFullWriteGoesThroughAndAFailingFolderSyncIsToldWithout
 TEST_F(SaveFailuresTest, OneOperationTellsOnceThoughBothFilesFailAndARenameKeepsTheOldName)
 {
     const auto books = openShop();
-    const QMap<QString, QByteArray> before = snapshot();
+    const QMap<QString, QByteArray> before = entriesUnder(home.path());
     {
         const FailingSaves failing(Step::Write, 0);
         books->calcAll();
@@ -164,7 +154,7 @@ TEST_F(SaveFailuresTest, OneOperationTellsOnceThoughBothFilesFailAndARenameKeeps
     }
     EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
     EXPECT_EQ(books->theLedger, u"  Shop");
-    EXPECT_EQ(snapshot(), before) << "the files of the old name stay, none of the new";
+    EXPECT_EQ(entriesUnder(home.path()), before) << "the files of the old name stay, none of the new";
     ASSERT_EQ(platform.messages.size(), 2);
     EXPECT_EQ(platform.messages[0],
               u"Quillmark couldn't save the ledger \"Shop\": No space left on device."_s + kLedgerKept);

@@ -5,7 +5,6 @@
 #include "ledger/TransactionOperations.h"
 #include "mainwindow/MenuBar1.h"
 #include "mainwindow/SummaryWindowFixture.h"
-#include "mainwindow/Toolbar1.h"
 #include "widgets/AutoButton.h"
 #include "widgets/Canvas.h"
 
@@ -29,34 +28,19 @@ class CommandsTest : public SummaryWindowTest {
 protected:
     // "  Shop": the Base Account and four more; transactions name their accounts
     // in any letter case.
-    void writeShop() const
-    {
-        writeLedgers();
-        writeBytes(home.books() + u"/  ShopAccountData"_s,
-                   "@#@Cash@#@Base Account@#@100.00@#@0@#@100@#@@#@\n"
-                   "@#@Rent@#@Expense@#@0.00@#@-20@#@-20@#@@#@\n"
-                   "@#@Sales@#@Revenue@#@0.00@#@30@#@30@#@@#@\n"
-                   "@#@Fuel@#@Expense@#@0.00@#@-5@#@-5@#@@#@\n"
-                   "@#@Car-Hire@#@Expense@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(home.books() + u"/  ShopTransData"_s,
-                   "@#@Rent@#@2026-01-02@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
-                   "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
-                   "@#@FUEL@#@2026-01-04@#@diesel@#@@#@-5@#@0@#@-5@#@@#@@#@@#@Never@#@\n"
-                   "@#@Sales@#@2026-01-05@#@till@#@@#@20@#@0@#@20@#@@#@@#@@#@Never@#@\n");
-    }
-
     SummaryWindow* openShop()
     {
-        writeShop();
-        SummaryWindow* window = shownWindow();
-        window->LedgerList().SetListIndex(0);
+        SummaryWindow* window = SummaryWindowTest::openShop("@#@Cash@#@Base Account@#@100.00@#@0@#@100@#@@#@\n"
+                                                            "@#@Rent@#@Expense@#@0.00@#@-20@#@-20@#@@#@\n"
+                                                            "@#@Sales@#@Revenue@#@0.00@#@30@#@30@#@@#@\n"
+                                                            "@#@Fuel@#@Expense@#@0.00@#@-5@#@-5@#@@#@\n"
+                                                            "@#@Car-Hire@#@Expense@#@0.00@#@0@#@0@#@@#@\n",
+            "@#@Rent@#@2026-01-02@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
+            "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
+            "@#@FUEL@#@2026-01-04@#@diesel@#@@#@-5@#@0@#@-5@#@@#@@#@@#@Never@#@\n"
+            "@#@Sales@#@2026-01-05@#@till@#@@#@20@#@0@#@20@#@@#@@#@@#@Never@#@\n");
         QApplication::processEvents();
         return window;
-    }
-
-    static void press(SummaryWindow* window, const QString& item)
-    {
-        QTest::mouseClick(window->Toolbar11->widgetForAction(window->Toolbar11->item(item)), Qt::LeftButton);
     }
 
     static void click(QWidget* button) { QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, 8)); }
@@ -71,14 +55,6 @@ protected:
         QTest::mouseRelease(grid->viewport(), Qt::LeftButton, {}, drop);
     }
 
-    static QStringList column(const Listbox& table, int col)
-    {
-        QStringList cells;
-        for (int row = 0; row < table.ListCount(); ++row)
-            cells << table.Cell(row, col);
-        return cells;
-    }
-
     static std::vector<int> selected(const Listbox& table)
     {
         std::vector<int> rows;
@@ -87,16 +63,13 @@ protected:
                 rows.push_back(row);
         return rows;
     }
-
-    QByteArray accountsFile() const { return readBytes(home.books() + u"/  ShopAccountData"_s); }
-    QByteArray transFile() const { return readBytes(home.books() + u"/  ShopTransData"_s); }
 };
 
 } // namespace
 
 TEST_F(CommandsTest, RefusedCommandsSayWhyAndChangeNothing)
 {
-    writeShop();
+    writeLedgers();
     SummaryWindow* window = shownWindow();
     const QMenuBar& bar = *window->menuBar();
     EXPECT_FALSE(MenuBar1::item(bar, u"FileImportData"_s)->isEnabled());
@@ -119,7 +92,7 @@ TEST_F(CommandsTest, RefusedCommandsSayWhyAndChangeNothing)
     // Account can't be deleted and has no transactions window.
     window->LedgerList().SetListIndex(0);
     EXPECT_TRUE(MenuBar1::item(bar, u"FileImportData"_s)->isEnabled());
-    const QByteArray accounts = accountsFile();
+    const QByteArray accounts = stored("Account");
     platform.messages.clear();
     for (const QString& item : {u"Delete"_s, u"Edit"_s, u"Transactions"_s})
         press(window, item);
@@ -129,7 +102,7 @@ TEST_F(CommandsTest, RefusedCommandsSayWhyAndChangeNothing)
     EXPECT_EQ(platform.messages, (QStringList{noAccount, noAccount, u"No account selected"_s,
                                               u"The Base Account cannot be deleted."_s, u"No account selected"_s}));
     EXPECT_TRUE(platform.dialogs.empty());
-    EXPECT_EQ(accountsFile(), accounts);
+    EXPECT_EQ(stored("Account"), accounts);
 
     window->Toolbar11->printSaveMenu()->actions().at(1)->trigger();
     EXPECT_EQ(window->printRequest, u"transactions");
@@ -156,7 +129,7 @@ TEST_F(CommandsTest, AddingAnAccountShowsARefusalAndStoresWhatTheDialogHolds)
     EXPECT_EQ(platform.beeps, 1) << "Return gives no line break in the notes";
     QTest::mouseClick(dialog->PushButton1, Qt::LeftButton);
     EXPECT_FALSE(dialog->isVisible());
-    EXPECT_TRUE(accountsFile().endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar by the till@#@\n"));
+    EXPECT_TRUE(stored("Account").endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar by the till@#@\n"));
 }
 
 TEST_F(CommandsTest, EditingOpensOnTheSelectedRowWithItsTypeFixed)
@@ -192,33 +165,32 @@ TEST_F(CommandsTest, EditingOpensOnTheSelectedRowWithItsTypeFixed)
     EXPECT_FALSE(dialog->Canvas2->isVisible());
     dialog->EditField3->setText(u"150"_s);
     QTest::mouseClick(dialog->PushButton1, Qt::LeftButton);
-    EXPECT_TRUE(accountsFile().startsWith("@#@Cash@#@@#@150@#@")) << accountsFile().toStdString();
+    EXPECT_TRUE(stored("Account").startsWith("@#@Cash@#@@#@150@#@")) << stored("Account").toStdString();
 }
 
 TEST_F(CommandsTest, DeletingAnAccountOrTransactionsWaitsForTheConfirmation)
 {
     SummaryWindow* window = openShop();
     window->accountsBox().SetListIndex(3);
-    const QByteArray accounts = accountsFile();
+    const QByteArray accounts = stored("Account");
     press(window, u"Delete"_s); // cancelled
     ASSERT_EQ(platform.dialogs.size(), 1u);
     EXPECT_EQ(platform.dialogs[0].Message, u"Are you sure you want to delete the account and all of its transactions?");
-    EXPECT_EQ(accountsFile(), accounts);
+    EXPECT_EQ(stored("Account"), accounts);
     platform.answerNextDialog(MessageDialog::Button::Action);
     press(window, u"Delete"_s);
-    EXPECT_EQ(column(window->accountsBox(), 1), (QStringList{u"Cash"_s, u"Rent"_s, u"Sales"_s, u"Car-Hire"_s}));
+    EXPECT_EQ(columnOf(window->accountsBox(), 1), (QStringList{u"Cash"_s, u"Rent"_s, u"Sales"_s, u"Car-Hire"_s}));
 
     click(window->deltransbtn);
     EXPECT_EQ(platform.messages, QStringList{u"No transaction selected."_s});
     window->transBox().setSelectedRows({0, 2});
-    const QByteArray transactions = transFile();
+    const QByteArray transactions = stored("Trans");
     click(window->deltransbtn); // cancelled
     EXPECT_EQ(platform.dialogs.size(), 3u);
-    EXPECT_EQ(transFile(), transactions);
+    EXPECT_EQ(stored("Trans"), transactions);
     platform.answerNextDialog(MessageDialog::Button::Action);
     click(window->deltransbtn);
-    EXPECT_EQ(column(window->transBox(), 3), QStringList{u"till"_s});
-    EXPECT_TRUE(accountsFile().contains("@#@Rent@#@Expense@#@0.00@#@0@#@0@#@")) << "recalculated";
+    EXPECT_EQ(columnOf(window->transBox(), 3), QStringList{u"till"_s});
 }
 
 TEST_F(CommandsTest, TheContextMenuMovesTheSelectedTransactionCutAtTheDash)
@@ -244,7 +216,7 @@ TEST_F(CommandsTest, TheContextMenuMovesTheSelectedTransactionCutAtTheDash)
     menu->close();
     EXPECT_EQ(window->transBox().Cell(0, 1), u"Sales");
     EXPECT_EQ(window->accountsBox().Cell(1, 4).trimmed(), u"0.00") << "recalculated";
-    EXPECT_TRUE(transFile().startsWith("@#@Sales@#@2026-01-02@#@January@#@"));
+    EXPECT_TRUE(stored("Trans").startsWith("@#@Sales@#@2026-01-02@#@January@#@"));
 
     TransactionOperations(window->books()).transBox_ContextualMenuAction(u"999-Car-Hire"_s);
     EXPECT_EQ(window->transBox().Cell(0, 0), u"999");
@@ -255,16 +227,16 @@ TEST_F(CommandsTest, AnAccountDroppedOnTopIsRefusedAndAnyOtherDropIsStored)
 {
     SummaryWindow* window = openShop();
     ListboxView* grid = window->accountsBoxView;
-    const QByteArray stored = accountsFile();
+    const QByteArray accounts = stored("Account");
     dragRow(grid, 2, QPoint(30, 2));
     EXPECT_EQ(platform.beeps, 1);
-    EXPECT_EQ(accountsFile(), stored);
+    EXPECT_EQ(stored("Account"), accounts);
 
     // Dropped on the lower half of the last row: Rent goes to the end.
     dragRow(grid, 1, QPoint(30, grid->visualRect(grid->model()->index(4, 1)).bottom() - 2));
-    EXPECT_EQ(column(window->accountsBox(), 1),
+    EXPECT_EQ(columnOf(window->accountsBox(), 1),
               (QStringList{u"Cash"_s, u"Sales"_s, u"Fuel"_s, u"Car-Hire"_s, u"Rent"_s}));
-    EXPECT_TRUE(accountsFile().endsWith("@#@Rent@#@Expense@#@0.00@#@-20@#@-20@#@@#@\n"));
+    EXPECT_TRUE(stored("Account").endsWith("@#@Rent@#@Expense@#@0.00@#@-20@#@-20@#@@#@\n"));
     EXPECT_EQ(window->accountsBox().ListIndex(), 4) << "the dragged row stays selected";
 
     // The Base Account itself may go down: only the drop position is looked at.
@@ -286,7 +258,7 @@ TEST_F(CommandsTest, OnlyTheTransactionHeadingsSort)
     EXPECT_EQ(pressed.count(), 0);
     clickHeading(window->transBoxView, 2);
     clickHeading(window->transBoxView, 2);
-    EXPECT_EQ(column(window->transBox(), 2),
+    EXPECT_EQ(columnOf(window->transBox(), 2),
               (QStringList{u"2026-01-05"_s, u"2026-01-04"_s, u"2026-01-03"_s, u"2026-01-02"_s}));
 }
 
@@ -321,7 +293,7 @@ TEST_F(CommandsTest, AReconcileBoxIsStoredAndCountsOnlyInReconcileMode)
     QAbstractItemModel* model = window->transBoxView->model();
     model->setData(model->index(1, 1), Qt::Checked, Qt::CheckStateRole);
     EXPECT_EQ(window->transBox().Cell(1, TransCol::Reconciled), u"true");
-    EXPECT_TRUE(transFile().contains("@#@10@#@0@#@10@#@@#@@#@true@#@Never@#@\n"));
+    EXPECT_TRUE(stored("Trans").contains("@#@10@#@0@#@10@#@@#@@#@true@#@Never@#@\n"));
     EXPECT_EQ(window->accountsBox().Cell(1, AccountCol::Transactions).trimmed(), u"-20") << "reconcile mode is off";
 
     window->reconcilecheckbox->setChecked(true);

@@ -1,6 +1,7 @@
 #include "books/rowtable/Listbox.h"
 #include "engine/RowLayouts.h"
 #include "mainwindow/SummaryColours.h"
+#include "support/Cells.h"
 
 #include <gtest/gtest.h>
 
@@ -10,14 +11,9 @@ TEST(SummaryColours, AccountTextShowsTheBaseAccountAndNegativeBalancesOfNonReven
 {
     Listbox accounts(u"accountsBox"_s, AccountCol::Count);
     setUpAccountsBox(accounts);
-    const QList<std::pair<QString, QString>> rows{{u"Base Account"_s, u"   -50.00"_s}, {u"Expense"_s, u"   -12.50"_s},
-                                                  {u"REVENUE"_s, u"   -99.00"_s},     {u"Expense"_s, u"    12.50"_s},
-                                                  {u"asset"_s, u"-1,5"_s}};
-    for (const auto& [type, balance] : rows) {
-        accounts.AddRow();
-        accounts.SetCell(accounts.LastIndex(), AccountCol::Type, type);
-        accounts.SetCell(accounts.LastIndex(), AccountCol::Balance, balance);
-    }
+    // Types and balances.
+    addRows(accounts, {u"||Base Account|||   -50.00"_s, u"||Expense|||   -12.50"_s, u"||REVENUE|||   -99.00"_s,
+                       u"||Expense|||    12.50"_s, u"||asset|||-1,5"_s});
     const QColor red(255, 0, 0), green(0, 128, 64), white(255, 255, 255), blue(217, 233, 255);
     const QList<QColor> text{green, red, QColor(), QColor(), red}; // revenue in any case is never red
     for (int row = 0; row < accounts.ListCount(); ++row) {

@@ -4,6 +4,8 @@
 #include "books/rowtable/ui/ListboxView.h"
 #include "app/Windows.h"
 #include "mainwindow/SummaryWindow.h"
+#include "mainwindow/Toolbar1.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
@@ -43,6 +45,29 @@ protected:
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
         return window;
+    }
+
+    // "  Shop" with these files, open in the main window.
+    SummaryWindow* openShop(const QByteArray& accounts, const QByteArray& transactions) const
+    {
+        writeLedgers();
+        writeBytes(home.books() + QStringLiteral("/  ShopAccountData"), accounts);
+        writeBytes(home.books() + QStringLiteral("/  ShopTransData"), transactions);
+        SummaryWindow* window = shownWindow();
+        window->LedgerList().SetListIndex(0);
+        return window;
+    }
+
+    // What "  Shop" holds on disk; kind: "Account" or "Trans".
+    QByteArray stored(const char* kind) const
+    {
+        return readBytes(home.books() + QStringLiteral("/  Shop") + QLatin1String(kind) + QStringLiteral("Data"));
+    }
+
+    // A click on an item of the toolbar.
+    static void press(SummaryWindow* window, const QString& item)
+    {
+        QTest::mouseClick(window->Toolbar11->widgetForAction(window->Toolbar11->item(item)), Qt::LeftButton);
     }
 
     static QPoint rowCenter(ListboxView* view, int row)

@@ -5,6 +5,7 @@
 #include "engine/RowLayouts.h"
 #include "platform/PrinterSetup.h"
 #include "reports/SummaryPrint.h"
+#include "support/Cells.h"
 #include "support/PdfReading.h"
 #include "support/ScriptedPlatform.h"
 
@@ -26,20 +27,14 @@ protected:
         platform.printToPdf(pdf);
         setUpAccountsBox(accounts);
         setUpTransBox(transactions);
-        account({u""_s, u"Cash"_s, u"Base Account"_s, u"100.00"_s, u"-40"_s, u"60.00"_s});
+        addRows(accounts, {u"|Cash|Base Account|100.00|-40|60.00"_s});
     }
     ~SummaryPrintTest() override { Globals::ps.clear(); }
 
-    void account(const QStringList& cells)
-    {
-        accounts.AddRow();
-        for (int column = 0; column < cells.size(); ++column)
-            accounts.SetCell(accounts.LastIndex(), column, cells[column]);
-    }
     void accountsNamed(int count)
     {
         for (int i = 1; i <= count; ++i)
-            account({QString(), u"acc%1"_s.arg(i, 3, 10, QChar(u'0')), u"Expense"_s, u"0.00"_s, u"0"_s, u"0.00"_s});
+            addRows(accounts, {u"|acc%1|Expense|0.00|0|0.00"_s.arg(i, 3, 10, QChar(u'0'))});
     }
 
     // Pixels of the page, at four times a point, that are nearly this colour,
@@ -69,8 +64,8 @@ protected:
 
 TEST_F(SummaryPrintTest, AccountsCutLongNamesAndColourTheFirstRowAndNegativeBalances)
 {
-    account({u"7"_s, u"ABCDEFGHIJKLMNOPQRSTUVW"_s, u"Expense"_s, u"-5.00"_s, u"0"_s, u"-5.00"_s});
-    account({u"8"_s, u"ABCDEFGHIJKLMNOPQRSTUVWX"_s, u"Revenue"_s, u"-7.50"_s, u"9"_s, u"1.50"_s});
+    addRows(accounts, {u"7|ABCDEFGHIJKLMNOPQRSTUVW|Expense|-5.00|0|-5.00"_s,
+                       u"8|ABCDEFGHIJKLMNOPQRSTUVWX|Revenue|-7.50|9|1.50"_s});
     printAll(u"accounts"_s, u"Quillmark"_s, accounts, transactions);
     const QList<Word> words = wordsOf(pdf);
     EXPECT_EQ(named(words, u"Quillmark:"_s).size(), 1);
@@ -98,12 +93,8 @@ TEST_F(SummaryPrintTest, AccountsCutLongNamesAndColourTheFirstRowAndNegativeBala
 
 TEST_F(SummaryPrintTest, TheTransactionsTitleStandsFirstOrFourLinesBelowTheAccounts)
 {
-    for (int row = 0; row < 3; ++row) {
-        transactions.AddRow();
-        transactions.SetCell(row, TransCol::Account, u"AVeryLongAccountNameIndeed"_s);
-        transactions.SetCell(row, TransCol::Description, u"t%1"_s.arg(row));
-        transactions.SetCell(row, TransCol::Transaction, u"-1.00"_s);
-    }
+    for (int row = 0; row < 3; ++row)
+        addRows(transactions, {u"|AVeryLongAccountNameIndeed||t%1||||-1.00"_s.arg(row)});
     printAll(u"transactions"_s, u"Quillmark"_s, accounts, transactions);
     QList<Word> words = wordsOf(pdf);
     EXPECT_TRUE(named(words, u"Accounts"_s).isEmpty());
@@ -143,7 +134,7 @@ TEST_F(SummaryPrintTest, ATableEndingJustShortOfTheLimitLeavesAnEmptyPage)
 
     // line = rows after the table; line + 3 above the limit: a new page, left empty.
     accounts.DeleteAllRows();
-    account({QString(), u"Cash"_s, u"Base Account"_s});
+    addRows(accounts, {u"|Cash|Base Account"_s});
     accountsNamed(limit - 3);
     printAll(u"accounts"_s, u"Quillmark"_s, accounts, transactions);
     EXPECT_EQ(pageCountOf(pdf), 2);

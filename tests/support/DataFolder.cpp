@@ -1,6 +1,7 @@
 #include "support/DataFolder.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -41,4 +42,18 @@ void writeBytes(const QString& path, const QByteArray& bytes)
 bool fileExists(const QString& path)
 {
     return QFileInfo::exists(path);
+}
+
+QMap<QString, QByteArray> entriesUnder(const QString& folder)
+{
+    QMap<QString, QByteArray> entries;
+    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QFileInfo info = it.nextFileInfo();
+        entries.insert(info.filePath(), info.isSymLink() ? "-> " + info.symLinkTarget().toUtf8()
+                                        : info.isFile()  ? readBytes(info.filePath())
+                                                         : "(entry)");
+    }
+    return entries;
 }

@@ -3,6 +3,7 @@
 #include "support/QtPrinters.h"
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -30,3 +31,6 @@ private:
 QByteArray readBytes(const QString& path);
 void writeBytes(const QString& path, const QByteArray& bytes);
 bool fileExists(const QString& path);
+// Every entry below folder by its path: a file's bytes, a link's target, "(entry)"
+// for anything else (nothing is opened that could wait, as a pipe would).
+QMap<QString, QByteArray> entriesUnder(const QString& folder);

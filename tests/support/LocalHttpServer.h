@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QByteArrayList>
-#include <QString>
 #include <QTcpServer>
+#include <QTcpSocket>
 
 #include <functional>
 
@@ -11,10 +11,25 @@
 // nothing and keeps the connection open.
 class LocalHttpServer {
 public:
-    explicit LocalHttpServer(std::function<QByteArray(const QByteArray& path)> respond);
+    explicit LocalHttpServer(std::function<QByteArray(const QByteArray& path)> respond)
+    {
+        server.listen(QHostAddress::LocalHost);
+        QObject::connect(&server, &QTcpServer::newConnection, &server, [this, respond] {
+            QTcpSocket* client = server.nextPendingConnection();
+            QObject::connect(client, &QTcpSocket::readyRead, client, [this, client, respond] {
+                asked << client->readAll().split(' ').value(1);
+                if (const QByteArray answer = respond(asked.back()); !answer.isEmpty()) {
+                    client->write(answer);
+                    client->disconnectFromHost();
+                }
+            });
+        });
+    }
 
-    // The address of path on this server.
-    QString url(const QString& path) const;
+    QString url(const QString& path) const
+    {
+        return QStringLiteral("http://127.0.0.1:%1%2").arg(server.serverPort()).arg(path);
+    }
 
     QByteArrayList asked; // the paths requested, in order
 
@@ -23,4 +38,8 @@ private:
 };
 
 // An HTTP/1.1 response with its body's length.
-QByteArray httpResponse(const QByteArray& status, const QByteArray& body, const QByteArray& headers = {});
+inline QByteArray httpResponse(const QByteArray& status, const QByteArray& body, const QByteArray& headers = {})
+{
+    return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n" + headers
+        + "Connection: close\r\n\r\n" + body;
+}

@@ -1,52 +1,59 @@
 #include "support/DataFolder.h"
-#include "update/Server.h"
+#include "support/LocalHttpServer.h"
 #include "update/VersionCheck.h"
+#include "update/VersionCheckSocket.h"
 
-#include <QTemporaryDir>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
-TEST(VersionCheck, ComparisonNumbersJoinTheDigits)
-{
-    const struct {
-        QString version;
-        double number;
-    } cases[] = {
-        {u"2.4.4"_s, 244}, {u"2.5"_s, 250}, {u"3"_s, 300}, {u"2.4.10"_s, 2410}, {u"1.9.9"_s, 199},
-        {u"2.10"_s, 210},  {u""_s, 0},      {u"2.x"_s, 2},  {u"x"_s, 0},         {u"99999999999999999999"_s, 1e20},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(VersionCheck::comparisonNumber(c.version), c.number) << c.version.toStdString();
-}
+namespace {
 
-TEST(VersionCheck, TheFileOffersOnlyAGreaterVersionAndIsKeptOnlyWhenItsFirstLineIsEmpty)
-{
+const QString kOffer = u"There is a newer version of Quillmark available. Would you like to download it now?"_s;
+
+class VersionCheckTest : public ::testing::Test {
+protected:
+    // Runs one check against url; the offers made, or nothing.
+    QStringList check(const QString& url, int timeLimitMs = 10000)
+    {
+        VersionCheckSocket socket;
+        socket.timeLimitMs = timeLimitMs;
+        QSignalSpy ended(&socket, &VersionCheckSocket::requestEnded);
+        QSignalSpy offers(&socket, &VersionCheckSocket::newerVersion);
+        socket.Get(url, path);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
+        QStringList texts;
+        for (const QList<QVariant>& offer : offers)
+            texts << offer.at(0).toString();
+        return texts;
+    }
+
+    const QString file = u"/VersionInfo/QuillmarkVersion.txt"_s;
     QTemporaryDir folder;
     const QString path = folder.filePath(u"Temporary Version File"_s);
+};
+
+} // namespace
+
+TEST_F(VersionCheckTest, TheFileOffersOnlyAGreaterVersionAndIsKeptOnlyWhenItsFirstLineIsEmpty)
+{
     const QString offer = u"There is a newer version of Quillmark Pro available. Would you like to download it now?"_s;
-    const struct {
-        QByteArray file;
-        bool keep;
-        QString offer;
-    } cases[] = {
-        {"Quillmark Pro\n2.4.5\n", false, offer},
-        {"Quillmark Pro\r\n2.10\r\n", false, {}},
-        {"Quillmark Pro\r3\r", false, offer},
-        {"Quillmark Pro\n2.4.4\n", false, {}},
-        {"Quillmark Pro\n99999999999999999999", false, offer},
-        {"Quillmark Pro", false, {}},
-        {"\n9.9.9\n", true, {}},
-        {"", true, {}},
-        {"\x89PNG\r\n\x1a\n\0\0\xff", false, {}},
+    // The versions compare as their digits joined, padded to three: 2.10 is 210.
+    const std::tuple<QByteArray, bool, QString> cases[] = {
+        {"Quillmark Pro\n2.4.5\n", false, offer}, {"Quillmark Pro\r\n2.10\r\n", false, {}},
+        {"Quillmark Pro\r3\r", false, offer},     {"Quillmark Pro\n2.4.4\n", false, {}},
+        {"Quillmark Pro\n2.5", false, offer},      {"Quillmark Pro\n99999999999999999999", false, offer},
+        {"Quillmark Pro", false, {}},             {"\n9.9.9\n", true, {}},
+        {"", true, {}},                           {"\x89PNG\r\n\x1a\n\0\0\xff", false, {}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.file.toStdString());
-        writeBytes(path, c.file);
+    for (const auto& [text, keep, offered] : cases) {
+        writeBytes(path, text);
         const VersionCheck::Verdict verdict = VersionCheck::readVersionFile(path, u"2.4.4"_s);
-        EXPECT_EQ(verdict.keepFile, c.keep);
-        EXPECT_EQ(verdict.offer, c.offer);
+        EXPECT_EQ(verdict.keepFile, keep) << text.toStdString();
+        EXPECT_EQ(verdict.offer, offered) << text.toStdString();
     }
     EXPECT_EQ(VersionCheck::theAppName, u"\uFFFDPNG"_s);
     const VersionCheck::Verdict missing = VersionCheck::readVersionFile(folder.filePath(u"none"_s), u"2.4.4"_s);
@@ -54,12 +61,47 @@ TEST(VersionCheck, TheFileOffersOnlyAGreaterVersionAndIsKeptOnlyWhenItsFirstLine
     EXPECT_TRUE(missing.offer.isEmpty());
 }
 
-TEST(VersionCheck, TheEnvironmentNamesAnotherServerWithItsPath)
+TEST_F(VersionCheckTest, AnAnswerIsReadWhateverItsStatusOrLengthAgainstTheBuildsVersion)
 {
-    qputenv("QUILLMARK_SERVER", "http://mirror.example/qm/");
-    EXPECT_EQ(serverAddress(u"/VersionInfo/QuillmarkVersion.txt"),
-              u"http://mirror.example/qm/VersionInfo/QuillmarkVersion.txt"_s);
-    qputenv("QUILLMARK_SERVER", "");
-    EXPECT_FALSE(serverAddress(u"/fernwright.zip").startsWith(u"http://mirror.example"_s));
-    qunsetenv("QUILLMARK_SERVER");
+    const std::tuple<QByteArray, bool, bool> cases[] = {
+        {httpResponse("200 OK", "\n2.5\n"), false, true}, // kept for the next check to make afresh
+        {httpResponse("200 OK", "Quillmark\n2.4.4\n"), false, false},
+        {httpResponse("500 Internal Server Error", "Quillmark\n2.5\n"), true, false},
+        {httpResponse("200 OK", "Quillmark\n3\n" + QByteArray(100 * 1024, 'x')), true, false}, // cut at the limit
+    };
+    for (const auto& [answer, offered, kept] : cases) {
+        LocalHttpServer server([&](const QByteArray&) { return answer; });
+        EXPECT_EQ(check(server.url(file)), offered ? QStringList{kOffer} : QStringList{}) << answer.left(40).toStdString();
+        EXPECT_EQ(fileExists(path), kept) << answer.left(40).toStdString();
+    }
+}
+
+TEST_F(VersionCheckTest, NoAnswerInTimeARedirectLoopOrAClosedPortOffersNothingAndLeavesNoFile)
+{
+    LocalHttpServer silent([](const QByteArray&) { return QByteArray(); });
+    LocalHttpServer loop([](const QByteArray& asked) { return httpResponse("302 Found", {}, "Location: " + asked + "x\r\n"); });
+    quint16 closedPort = 0;
+    {
+        QTcpServer gone;
+        gone.listen(QHostAddress::LocalHost);
+        closedPort = gone.serverPort();
+    }
+    const std::pair<QString, int> urls[] = {
+        {silent.url(file), 300}, {loop.url(file), 10000}, {u"http://127.0.0.1:%1%2"_s.arg(closedPort).arg(file), 10000}};
+    for (const auto& [url, limit] : urls) {
+        EXPECT_EQ(check(url, limit), QStringList{}) << url.toStdString();
+        EXPECT_FALSE(fileExists(path));
+    }
+    EXPECT_EQ(silent.asked.size(), 1);
+    EXPECT_GT(loop.asked.size(), 1);
+    EXPECT_LE(loop.asked.size(), 6);
+
+    // A request dropped with its socket takes its file along.
+    {
+        VersionCheckSocket socket;
+        socket.Get(silent.url(file), path);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return silent.asked.size() == 2; }));
+        EXPECT_TRUE(fileExists(path));
+    }
+    EXPECT_FALSE(fileExists(path));
 }

@@ -18,13 +18,8 @@ class CustomImportWindowTest : public SummaryWindowTest {
 protected:
     CustomImportWindowTest()
     {
-        writeLedgers();
-        writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
-                                                            "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(home.books() + u"/  ShopTransData"_s,
-                   "@#@Rent@#@2014-03-01@#@Wages@#@@#@2000@#@@#@2000.00@#@@#@@#@@#@Never@#@\n");
-        window = shownWindow();
-        window->LedgerList().SetListIndex(0);
+        window = openShop("@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n",
+                          "@#@Rent@#@2014-03-01@#@Wages@#@@#@2000@#@@#@2000.00@#@@#@@#@@#@Never@#@\n");
     }
 
     // A bank's file: a line above the header, a total below it.
@@ -48,8 +43,6 @@ protected:
         return dialog;
     }
 
-    QByteArray transFile() const { return readBytes(home.books() + u"/  ShopTransData"_s); }
-
     SummaryWindow* window = nullptr;
 };
 
@@ -66,7 +59,7 @@ TEST_F(CustomImportWindowTest, ThePreviewShowsWhatEachRecordBecomesAndContinueWa
     // The total refuses the file: Continue stays off, and the line says why.
     EXPECT_EQ(dialog->ProblemLabel->text(), u"Line 6: \"Saldo\" is not a date in the order day-month-year.");
     EXPECT_FALSE(dialog->PushButton1->isEnabled());
-    const QByteArray before = transFile();
+    const QByteArray before = stored("Trans");
 
     dialog->SkipLast->setValue(1);
     EXPECT_EQ(dialog->ProblemLabel->text(), u"");
@@ -75,7 +68,7 @@ TEST_F(CustomImportWindowTest, ThePreviewShowsWhatEachRecordBecomesAndContinueWa
     EXPECT_TRUE(platform.dialogs.empty()) << "no duplicate to ask about";
     ASSERT_EQ(window->transBox().ListCount(), 3);
     EXPECT_EQ(window->transBox().Cell(1, TransCol::Transaction), u"-1234.56");
-    EXPECT_NE(transFile(), before) << "stored";
+    EXPECT_NE(stored("Trans"), before) << "stored";
 
     // Once more: both are in the ledger now; Cancel imports nothing, nor does Skip Them.
     dialog = importBankFile();
@@ -96,7 +89,7 @@ TEST_F(CustomImportWindowTest, ThePreviewShowsWhatEachRecordBecomesAndContinueWa
 
 TEST_F(CustomImportWindowTest, CancelledFileDialogsDoNothingAndExportWritesTheCsv)
 {
-    const QByteArray before = transFile();
+    const QByteArray before = stored("Trans");
     window->_FileImportData_Action();
     EXPECT_TRUE(window->findChildren<CustomImportWindow*>().isEmpty() || !Windows::CustomImportWindow()->isVisible());
     window->exportData();
@@ -106,7 +99,7 @@ TEST_F(CustomImportWindowTest, CancelledFileDialogsDoNothingAndExportWritesTheCs
     platform.answerFileDialogs(chosen);
     window->exportData();
     EXPECT_TRUE(readBytes(chosen + u".csv"_s).endsWith("Rent,CREDIT,20140301,2000.00,Wages\n"));
-    EXPECT_EQ(transFile(), before) << "the ledger's files don't change";
+    EXPECT_EQ(stored("Trans"), before) << "the ledger's files don't change";
     platform.answerFileDialogs(home.path() + u"/no/such/folder/x"_s);
     window->exportData();
     ASSERT_EQ(platform.messages.size(), 1);

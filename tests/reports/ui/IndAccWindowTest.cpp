@@ -4,7 +4,6 @@
 #include "engine/RowLayouts.h"
 #include "engine/ui/TransactionWindow.h"
 #include "mainwindow/SummaryWindowFixture.h"
-#include "mainwindow/Toolbar1.h"
 #include "reports/ui/indAccWindow.h"
 #include "support/PdfReading.h"
 #include "widgets/AutoButton.h"
@@ -25,34 +24,23 @@ protected:
     // "  Shop": Rent's transactions at rows 0, 2, 4 and 5 of transBox, Sales's at 1 and 3.
     IndAccWindowTest()
     {
-        writeLedgers();
-        writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
-                                                            "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n"
-                                                            "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(home.books() + u"/  ShopTransData"_s,
-                   "@#@Rent@#@2014-01-09@#@r0@#@@#@-10@#@@#@-10.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Rent@#@2014-02-09@#@r2@#@@#@-20@#@@#@-20.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Sales@#@2014-02-10@#@s3@#@@#@7@#@@#@7.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@rent@#@2014-03-09@#@r4@#@@#@-40@#@@#@-40.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Rent@#@2014-04-09@#@r5@#@@#@-50@#@@#@-50.00@#@@#@@#@@#@Never@#@\n");
-        window = shownWindow();
-        window->LedgerList().SetListIndex(0);
+        window = openShop("@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
+                          "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n"
+                          "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n",
+                          "@#@Rent@#@2014-01-09@#@r0@#@@#@-10@#@@#@-10.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Rent@#@2014-02-09@#@r2@#@@#@-20@#@@#@-20.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Sales@#@2014-02-10@#@s3@#@@#@7@#@@#@7.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@rent@#@2014-03-09@#@r4@#@@#@-40@#@@#@-40.00@#@@#@@#@@#@Never@#@\n"
+                          "@#@Rent@#@2014-04-09@#@r5@#@@#@-50@#@@#@-50.00@#@@#@@#@@#@Never@#@\n");
         window->books().calcAll();
         window->accountsBox().SetListIndex(1);
-        QTest::mouseClick(window->Toolbar11->widgetForAction(window->Toolbar11->item(u"Transactions"_s)),
-                          Qt::LeftButton);
+        press(window, u"Transactions"_s);
         account = Windows::indAccWindow();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(account));
     }
 
-    QStringList descriptions() const
-    {
-        QStringList texts;
-        for (int row = 0; row < account->ListBox1Table.ListCount(); ++row)
-            texts << account->ListBox1Table.Cell(row, TransCol::Description);
-        return texts;
-    }
+    QStringList descriptions() const { return columnOf(account->ListBox1Table, TransCol::Description); }
 
     // Whether add, delete and edit are on.
     bool editable() const
@@ -78,12 +66,10 @@ TEST_F(IndAccWindowTest, TheAccountsLinesAndBalanceAndDeletingTheSelectedOnes)
     EXPECT_EQ(account->Label3->text(), u"-120.00") << "the account's balance";
 
     account->ListBox1Table.setSelectedRows({1, 3});
-    QTest::mouseClick(account->Canvas2, Qt::LeftButton); // cancelled
-    ASSERT_EQ(platform.dialogs.size(), 1u);
-    EXPECT_EQ(platform.dialogs[0].Message, u"Are you sure you want to delete the selected transaction(s)?");
-    EXPECT_EQ(descriptions().size(), 4);
     platform.answerNextDialog(MessageDialog::Button::Action);
     QTest::mouseClick(account->Canvas2, Qt::LeftButton);
+    ASSERT_EQ(platform.dialogs.size(), 1u);
+    EXPECT_EQ(platform.dialogs[0].Message, u"Are you sure you want to delete the selected transaction(s)?");
     EXPECT_EQ(descriptions(), (QStringList{u"r0"_s, u"r4"_s}));
     EXPECT_EQ(window->transBox().ListCount(), 4);
     EXPECT_EQ(account->Label3->text(), u"-50.00") << "the balance recalculated";
@@ -91,23 +77,23 @@ TEST_F(IndAccWindowTest, TheAccountsLinesAndBalanceAndDeletingTheSelectedOnes)
 
 TEST_F(IndAccWindowTest, ApplyNarrowsTheListAndShowAllBringsItBack)
 {
+    const auto apply = [&](QDate from, QDate to) {
+        account->DateControl1->setDateValue(QDateTime(from, QTime(9, 0)));
+        account->DateControl2->setDateValue(QDateTime(to, QTime(9, 0)));
+        account->PushButton1->click();
+    };
     // Equal dates: nothing changes.
-    account->DateControl1->setDateValue(QDateTime(QDate(2014, 2, 1), QTime(9, 0)));
-    account->DateControl2->setDateValue(QDateTime(QDate(2014, 2, 1), QTime(9, 0)));
-    account->PushButton1->click();
+    apply(QDate(2014, 2, 1), QDate(2014, 2, 1));
     EXPECT_EQ(account->Label3->text(), u"-120.00");
     EXPECT_TRUE(editable());
 
     // A range that keeps everything: the buttons stay on, the label is the sum.
-    account->DateControl1->setDateValue(QDateTime(QDate(2013, 12, 31), QTime(9, 0)));
-    account->DateControl2->setDateValue(QDateTime(QDate(2014, 4, 9), QTime(9, 0)));
-    account->PushButton1->click();
+    apply(QDate(2013, 12, 31), QDate(2014, 4, 9));
     EXPECT_EQ(account->Label3->text(), u"-120");
     EXPECT_TRUE(editable());
 
     // Lines go: add, edit and delete go off, printing stays.
-    account->DateControl1->setDateValue(QDateTime(QDate(2014, 2, 9), QTime(9, 0)));
-    account->PushButton1->click();
+    apply(QDate(2014, 2, 9), QDate(2014, 4, 9));
     EXPECT_EQ(descriptions(), (QStringList{u"r4"_s, u"r5"_s}));
     EXPECT_EQ(account->Label3->text(), u"-90");
     EXPECT_FALSE(editable());

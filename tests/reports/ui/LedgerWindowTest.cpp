@@ -1,7 +1,6 @@
 // The ledger report window over the main window, opened by the toolbar's Summary.
 #include "books/rowtable/ui/ListboxView.h"
 #include "mainwindow/SummaryWindowFixture.h"
-#include "mainwindow/Toolbar1.h"
 #include "reports/ui/ledgerWindow.h"
 #include "widgets/AutoButton.h"
 #include "widgets/Canvas.h"
@@ -25,17 +24,13 @@ protected:
     // "  Shop": Rent and Sales, with rows in February of two years and one in March.
     LedgerWindowTest()
     {
-        writeLedgers();
-        writeBytes(home.books() + u"/  ShopAccountData"_s, "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
-                                                            "@#@Rent@#@Expense@#@0.00@#@-90@#@-90@#@@#@\n"
-                                                            "@#@Sales@#@Revenue@#@0.00@#@12.5@#@12.5@#@@#@\n");
-        writeBytes(home.books() + u"/  ShopTransData"_s,
-                   "@#@Rent@#@2014-02-09@#@Feb rent@#@A1@#@-40@#@@#@-40.00@#@@#@@#@@#@Never@#@\n"
-                   "@#@Sales@#@2015-02-10@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@@#@Never@#@\n"
-                   "@#@Rent@#@2015-03-09@#@Mar rent@#@@#@-50@#@@#@-50.00@#@@#@@#@@#@Never@#@\n");
-        SummaryWindow* window = shownWindow();
-        window->LedgerList().SetListIndex(0);
-        QTest::mouseClick(window->Toolbar11->widgetForAction(window->Toolbar11->item(u"Ledger"_s)), Qt::LeftButton);
+        press(openShop("@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n"
+                       "@#@Rent@#@Expense@#@0.00@#@-90@#@-90@#@@#@\n"
+                       "@#@Sales@#@Revenue@#@0.00@#@12.5@#@12.5@#@@#@\n",
+                       "@#@Rent@#@2014-02-09@#@Feb rent@#@A1@#@-40@#@@#@-40.00@#@@#@@#@@#@Never@#@\n"
+                       "@#@Sales@#@2015-02-10@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@@#@Never@#@\n"
+                       "@#@Rent@#@2015-03-09@#@Mar rent@#@@#@-50@#@@#@-50.00@#@@#@@#@@#@Never@#@\n"),
+              u"Ledger"_s);
         report = Windows::ledgerWindow();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(report));
     }

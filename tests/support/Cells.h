@@ -1,0 +1,23 @@
+#pragma once
+
+#include "books/rowtable/Listbox.h"
+
+// One column of a table, top to bottom.
+inline QStringList columnOf(const Listbox& table, int column)
+{
+    QStringList cells;
+    for (int row = 0; row < table.ListCount(); ++row)
+        cells << table.Cell(row, column);
+    return cells;
+}
+
+// A row for each line, its cells split at "|".
+inline void addRows(Listbox& table, const QStringList& lines)
+{
+    for (const QString& line : lines) {
+        table.AddRow();
+        const QStringList cells = line.split(u'|');
+        for (int column = 0; column < cells.size(); ++column)
+            table.SetCell(table.LastIndex(), column, cells[column]);
+    }
+}
