@@ -172,6 +172,8 @@ TEST(Listbox, RowsKeepTheirCellsThroughEditsMovesAndTheReclaimingOfSpace)
                     ASSERT_EQ(table.CellView(r, c), model[r][c]) << "step " << step << ", row " << r << ", column " << c;
         }
     }
+}
+
 // The model reads its table's cells as they are; the model tester watches that
 // every change of the table reaches a view as the contract of a model says.
 TEST(ListboxModel, FollowsEveryChangeOfItsTableWithinTheModelContract)
