@@ -71,7 +71,7 @@ private:
         // A line that ends in part of a separator was cut short; the part is no
         // text of the last cell, which couldn't be stored again ("x@#" and "@#@"
         // make "x@#@#@", which splits after "x").
-        while (line.endsWith(u"@#"))
+        while (line.size() >= 2 && line[line.size() - 2] == u'@' && line[line.size() - 1] == u'#')
             line.chop(2);
         std::fill(cells_.begin(), cells_.end(), QStringView());
         qsizetype at = separatorFrom(line, 0);
@@ -94,7 +94,7 @@ private:
     {
         for (;;) {
             const qsizetype at = line.indexOf(u'@', from);
-            if (at < 0 || line.mid(at, kSeparator.size()) == kSeparator)
+            if (at < 0 || (at + 2 < line.size() && line[at + 1] == u'#' && line[at + 2] == u'@'))
                 return at;
             from = at + 1;
         }
