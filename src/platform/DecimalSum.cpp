@@ -38,18 +38,23 @@ bool readUnits(QStringView text, bool commaIsPoint, __int128& units, int& places
         negative = text[i] == u'-';
         ++i;
     }
-    units = 0;
-    places = 0;
+    // Up to 18 digits in 64 bits, which nearly every amount has; beyond, in 128.
+    quint64 small = 0;
+    __int128 large = 0;
     int digits = 0;
+    places = 0;
     bool seenPoint = false;
     for (; i < text.size(); ++i) {
         const char16_t c = text[i].unicode();
         if (c >= u'0' && c <= u'9') {
-            if (units != 0 || c != u'0')
+            if (digits != 0 || c != u'0')
                 ++digits;
-            if (digits > kMostDigits)
+            if (digits <= 18)
+                small = small * 10 + (c - u'0');
+            else if (digits <= kMostDigits)
+                large = (digits == 19 ? __int128(small) : large) * 10 + (c - u'0');
+            else
                 return false;
-            units = units * 10 + (c - u'0');
             if (seenPoint)
                 ++places;
         } else if (!seenPoint && (c == u'.' || (commaIsPoint && c == u','))) {
@@ -60,9 +65,18 @@ bool readUnits(QStringView text, bool commaIsPoint, __int128& units, int& places
     }
     // "12.50" is 1250 hundredths, and as well 125 tenths: the fewer places,
     // the more room.
-    while (places > 0 && units % 10 == 0) {
-        units /= 10;
-        --places;
+    if (digits <= 18) {
+        while (places > 0 && small % 10 == 0) {
+            small /= 10;
+            --places;
+        }
+        units = small;
+    } else {
+        while (places > 0 && large % 10 == 0) {
+            large /= 10;
+            --places;
+        }
+        units = large;
     }
     if (negative)
         units = -units;
@@ -83,6 +97,14 @@ void DecimalSum::add(QStringView text, bool commaIsPoint)
 
 bool DecimalSum::addExact(__int128 units, int places)
 {
+    if (places == places_) {
+        // The usual case: amounts of as many places as the sum.
+        const __int128 sum = units_ + units;
+        if (sum >= kLimit || sum <= -kLimit)
+            return false;
+        units_ = sum;
+        return true;
+    }
     // Both to the finer of the two places, then added, each step within the limit.
     const int finer = std::max(places_, places);
     __int128 sum = units_;
