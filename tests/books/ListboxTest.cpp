@@ -172,6 +172,18 @@ TEST(Listbox, RowsKeepTheirCellsThroughEditsMovesAndTheReclaimingOfSpace)
                     ASSERT_EQ(table.CellView(r, c), model[r][c]) << "step " << step << ", row " << r << ", column " << c;
         }
     }
+
+    // Marks and styles stay with their rows when the space is reclaimed.
+    Listbox styled(u"t"_s, 2);
+    styled.AddRow(u"a");
+    styled.AddRow(u"b");
+    styled.SetCellBold(0, 1, true);
+    styled.SetCellCheck(0, 0, true);
+    for (int i = 0; i < 4000; ++i)
+        styled.SetCell(1, 1, QString(60 + i % 2, u'z'));
+    EXPECT_TRUE(styled.CellBold(0, 1));
+    EXPECT_TRUE(styled.CellCheck(0, 0));
+    EXPECT_FALSE(styled.CellBold(1, 1));
 }
 
 // The model reads its table's cells as they are; the model tester watches that

@@ -208,6 +208,7 @@ void RowStore::compactIfWasteful()
         live += unitsOf(r);
     fresh.nextBlock_ = std::clamp(live, qsizetype(1024), kLargestBlock);
     fresh.rows_ = std::move(rows_);
+    fresh.styles_ = std::move(styles_);
     for (Row& r : fresh.rows_) {
         char16_t* entry = fresh.allocate(unitsOf(r));
         std::copy_n(r.entry, unitsOf(r), entry);
