@@ -199,10 +199,9 @@ PlainFileReader::PlainFileReader(const QString& path)
     fd_ = calls.open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0);
     if (fd_ < 0) {
         const int error = errno;
-        missing_ = error == ENOENT;
         struct stat entry {};
-        if (missing_)
-            return;
+        if (error == ENOENT)
+            return; // no file: nothing to read, and no problem
         if (::lstat(name.constData(), &entry) == 0 && !S_ISREG(entry.st_mode))
             problem_ = notPlainReason(path, entry.st_mode);
         else

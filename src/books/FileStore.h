@@ -70,7 +70,6 @@ public:
     PlainFileReader(const PlainFileReader&) = delete;
     PlainFileReader& operator=(const PlainFileReader&) = delete;
 
-    bool missing() const { return missing_; }
     bool isOpen() const { return fd_ >= 0; }
     // Why the file can't be read; "" while all goes well.
     const QString& problem() const { return problem_; }
@@ -83,7 +82,6 @@ public:
 
 private:
     int fd_ = -1;
-    bool missing_ = false;
     qsizetype size_ = 0;
     QString problem_;
 };

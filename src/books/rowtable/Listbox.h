@@ -23,7 +23,6 @@ public:
 
     // Every cell is followed by this in a row's text, as in the table files.
     static constexpr QStringView kSeparator = RowStore::kSeparator;
-    static constexpr qsizetype kSeparatorSize = 3;
 
     // Rows detached from any table, of as many columns as the table they go
     // into: what a file load or an import builds before the rows go into the

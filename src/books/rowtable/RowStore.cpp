@@ -203,10 +203,7 @@ void RowStore::compactIfWasteful()
     if (wasted_ < kWasteWorthReclaiming || wasted_ * 2 < used_)
         return;
     RowStore fresh(columnCount_);
-    qsizetype live = 0;
-    for (const Row& r : rows_)
-        live += unitsOf(r);
-    fresh.nextBlock_ = std::clamp(live, qsizetype(1024), kLargestBlock);
+    fresh.nextBlock_ = std::clamp(used_ - wasted_, qsizetype(1024), kLargestBlock);
     fresh.rows_ = std::move(rows_);
     fresh.styles_ = std::move(styles_);
     for (Row& r : fresh.rows_) {

@@ -190,15 +190,3 @@ TableFileRows readTableFile(const QString& path, int columnCount, bool accountDa
         return {std::nullopt, file.problem()};
     return {std::move(rows), {}};
 }
-
-Listbox::Rows rowsOfBytes(QByteArrayView bytes, int columnCount, bool accountData)
-{
-    const char* begin = bytes.data();
-    const char* const end = begin + bytes.size();
-    RowsFromLines utf8(columnCount, accountData, false);
-    if (addLines(utf8, begin + (startsWithMark(begin, bytes.size()) ? 3 : 0), end, true))
-        return std::move(utf8.rows);
-    RowsFromLines latin1(columnCount, accountData, true);
-    addLines(latin1, begin, end, true);
-    return std::move(latin1.rows);
-}

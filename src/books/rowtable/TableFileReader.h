@@ -21,6 +21,3 @@ struct TableFileRows {
     QString problem;                   // why it can't be read
 };
 TableFileRows readTableFile(const QString& path, int columnCount, bool accountData);
-
-// The same rows from bytes in memory.
-Listbox::Rows rowsOfBytes(QByteArrayView bytes, int columnCount, bool accountData);
