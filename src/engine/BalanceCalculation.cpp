@@ -24,6 +24,7 @@ BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, 
     {
         AccountIndex index(accounts);
         for (int t = 0; t < transactions.ListCount(); ++t) {
+            transactions.prefetchAhead(t);
             if (reconciledOnly && !transactions.CellCheck(t, TransCol::Account))
                 continue;
             const QStringView amount = transactions.CellView(t, TransCol::Transaction);
@@ -53,6 +54,7 @@ BalanceTotals calculateBalances(Listbox& accounts, const Listbox& transactions, 
 void writeSeconds(Listbox& transactions)
 {
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        transactions.prefetchAhead(t);
         QDate date;
         if (!ParseDate(transactions.CellView(t, TransCol::Date), date))
             continue;
@@ -131,6 +133,7 @@ void padAmounts(Listbox& accounts, Listbox& transactions)
     // Trimming every total and then padding every total is the same, row by row,
     // as one pass that does both.
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        transactions.prefetchAhead(t);
         const QStringView cell = transactions.CellView(t, TransCol::Transaction);
         if (hasOuterBlanks(cell))
             transactions.SetCell(t, TransCol::Transaction, cell.trimmed().toString());
@@ -153,6 +156,7 @@ void showDecimalCommas(Listbox& accounts, Listbox& transactions)
             accounts.SetCell(r, column, cmm(accounts.CellView(r, column)));
     }
     for (int t = 0; t < transactions.ListCount(); ++t) {
+        transactions.prefetchAhead(t);
         const QStringView cell = transactions.CellView(t, TransCol::Transaction);
         if (cell.contains(u'.'))
             transactions.SetCell(t, TransCol::Transaction, cmm(cell));

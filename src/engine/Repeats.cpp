@@ -10,6 +10,7 @@ int postDueRepeats(Listbox& transactions, const QDateTime& now)
     const int last = transactions.ListCount() - 1;
     int posted = 0;
     for (int row = 0; row <= last; ++row) {
+        transactions.prefetchAhead(row);
         const QStringView mark = transactions.CellView(row, TransCol::Repeat);
         if (mark.isEmpty() || isWord(mark, u"never"))
             continue;

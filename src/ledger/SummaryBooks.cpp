@@ -87,6 +87,7 @@ QString SummaryBooks::separatorTypeOf(QStringView probe)
 void SummaryBooks::doCheckboxes()
 {
     for (int t = 0; t < transBox.ListCount(); ++t) {
+        transBox.prefetchAhead(t);
         if (isWord(transBox.CellView(t, TransCol::Reconciled), u"true"))
             transBox.SetCellCheck(t, TransCol::Account, true);
     }

@@ -34,22 +34,26 @@ TEST_F(ListboxManagerTest, SavesEveryCellFollowedByTheSeparatorAndLoadsWithColum
                                  "\r\n"
                                  "1@#@Short\r"
                                  "2@#@a@#@b@#@extra@#@more@#@\n"
+                                 "@#@a@b@@#@c@#x@#@extra@#@\n"
                                  "3@#@cut@#\n"
                                  "@#@\xC3\xA9t\xC3\xA9 \xF0\x9F\x92\xB6@#@@#@");
     table.AddRow(u"replaced by the load");
     manager.loadListBox(table, u"table"_s);
-    EXPECT_EQ(table.ListCount(), 5);
+    EXPECT_EQ(table.ListCount(), 6);
     EXPECT_EQ(table.Cell(2, 3), u"") << "extra fields are ignored, not kept in the hidden cell";
+    EXPECT_EQ(table.Cell(3, 3), u"");
+    EXPECT_EQ(table.Cell(3, 1), u"a@b@");
     table.SetCell(0, 3, u"hidden, never stored");
     table.SetCell(1, 0, u"x");
     manager.saveListBox(table, u"table"_s);
     EXPECT_EQ(readBytes(path(u"table"_s)),
-              QByteArray("@#@Cash@#@1200.00@#@\nx@#@Short@#@@#@\n@#@a@#@b@#@\n@#@cut@#@@#@\n"
+              QByteArray("@#@Cash@#@1200.00@#@\nx@#@Short@#@@#@\n@#@a@#@b@#@\n@#@a@b@@#@c@#x@#@\n@#@cut@#@@#@\n"
                          "@#@\xC3\xA9t\xC3\xA9 \xF0\x9F\x92\xB6@#@@#@\n"));
 
-    writeBytes(path(u"old"_s), "@#@Caf\xE9@#@\n"); // Latin-1, not valid UTF-8
+    writeBytes(path(u"old"_s), "@#@Caf\xE9@#@\n@#@Caf\xE9@#@\xFF@#@\n"); // Latin-1, not valid UTF-8
     manager.loadListBox(table, u"old"_s);
     EXPECT_EQ(table.Cell(0, 1), u"Café") << "an older one-byte encoding loses no bit";
+    EXPECT_EQ(table.Cell(1, 2), u"\u00FF");
 }
 
 TEST_F(ListboxManagerTest, NothingIsReadOrWrittenWithoutAFileOrAFolderOrWhileADeletionRuns)

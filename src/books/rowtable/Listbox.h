@@ -23,6 +23,7 @@ public:
 
     // Every cell is followed by this in a row's text, as in the table files.
     static constexpr QStringView kSeparator = RowStore::kSeparator;
+    static constexpr int kRowsAhead = 8;
 
     // Rows detached from any table, of as many columns as the table they go
     // into: what a file load or an import builds before the rows go into the
@@ -54,6 +55,9 @@ public:
     QString Cell(int row, int column) const { return CellView(row, column).toString(); }
     // The cell without a copy; valid until the table changes (a change may
     // move every row to reclaim the space of old ones).
+    // A pass over every row waits mostly on memory, each row's text being new
+    // to the cache; asking early for the row a few ahead hides that wait.
+    void prefetchAhead(int row) const { rows_.prefetch(row + kRowsAhead); }
     QStringView CellView(int row, int column) const
     {
         return validCell(row, column) ? rows_.cell(row, column) : QStringView();

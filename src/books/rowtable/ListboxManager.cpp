@@ -72,6 +72,7 @@ void ListboxManager::convertToSQLdate(Listbox& table)
     if (table.Name() != "transBox"_L1)
         return;
     for (int row = 0; row < table.ListCount(); ++row) {
+        table.prefetchAhead(row);
         const QStringView text = table.CellView(row, kDateColumn);
         // Ten characters with the hyphens in place stay as they are, whether a
         // date can be read from them or not: nearly every stored date, and no

@@ -102,6 +102,15 @@ void RowStore::add(const QStringView* cells, int cellCount)
     }
 }
 
+char16_t* RowStore::addStored(qsizetype size, const qsizetype* starts)
+{
+    Row& r = rows_.emplace_back();
+    place(r, size);
+    for (int c = 0; c < columnCount_; ++c)
+        setStart(r, c, starts[c]);
+    return const_cast<char16_t*>(textOf(r));
+}
+
 void RowStore::assign(int row, int column, QStringView text)
 {
     Row& r = rows_[row];

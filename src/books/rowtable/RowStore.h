@@ -50,6 +50,10 @@ public:
 
     // A new last row of cellCount cells, the other columns and the hidden cell empty.
     void add(const QStringView* cells, int cellCount);
+    // A new last row of size characters of text, for the caller to write in
+    // its stored form; starts holds where each cell after the first starts,
+    // columnCount() of them, the last being the hidden cell's.
+    char16_t* addStored(qsizetype size, const qsizetype* starts);
     // Column may be columnCount(), the hidden cell.
     QStringView cell(int row, int column) const { return cell(rows_[row], column); }
     QStringView cell(const Row& r, int column) const
@@ -63,6 +67,15 @@ public:
     {
         const Row& r = rows_[row];
         return QStringView(textOf(r), startOf(r, columnCount_ - 1));
+    }
+    // Asks the processor for a row's text ahead of a pass reaching it.
+    void prefetch(int row) const
+    {
+        if (row < count()) {
+            const Row& r = rows_[row];
+            __builtin_prefetch(r.entry);
+            __builtin_prefetch(r.entry + unitsOf(r) - 1);
+        }
     }
     void assign(int row, int column, QStringView text);
     // Counts the space of rows about to be removed from rows() as free.

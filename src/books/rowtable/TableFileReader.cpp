@@ -13,6 +13,21 @@ constexpr QStringView kSeparator = Listbox::kSeparator;
 constexpr int kTypeColumn = 2;
 constexpr qsizetype kPiece = 256 * 1024;
 
+// Eight bytes at a time.
+bool isAscii(const char* bytes, qsizetype size)
+{
+    quint64 any = 0;
+    qsizetype i = 0;
+    for (; i + 8 <= size; i += 8) {
+        quint64 word;
+        std::memcpy(&word, bytes + i, sizeof word);
+        any |= word;
+    }
+    for (; i < size; ++i)
+        any |= static_cast<unsigned char>(bytes[i]);
+    return (any & 0x8080808080808080u) == 0;
+}
+
 // Turns the lines of a file into rows, one line at a time.
 class RowsFromLines {
 public:
@@ -22,6 +37,7 @@ public:
         , accountData_(accountData)
         , latin1_(latin1)
         , cells_(columnCount)
+        , starts_(columnCount)
     {
     }
 
@@ -30,15 +46,47 @@ public:
     {
         if (begin == end)
             return true;
-        if (!decode(begin, end))
-            return false;
-        addRow(QStringView(text_.data(), textSize_));
+        if (!addStoredLine(begin, end)) {
+            if (!decode(begin, end))
+                return false;
+            addRow(QStringView(text_.data(), textSize_));
+        }
+        if (accountData_)
+            setPicture(rows.count() - 1);
         return true;
     }
 
     Listbox::Rows rows;
 
 private:
+    // Nearly every line the program wrote is one byte a character and already
+    // a row's stored text: its cells, each followed by the separator, the first
+    // empty. Such a line goes straight into the store, widened as it is copied.
+    bool addStoredLine(const char* begin, const char* end)
+    {
+        const qsizetype size = end - begin;
+        if (size < 3 || std::memcmp(begin, "@#@", 3) != 0 || (end[-2] == '@' && end[-1] == '#'))
+            return false;
+        if (!latin1_ && !isAscii(begin, size))
+            return false;
+        int found = 0;
+        for (const char* from = begin; found < columnCount_;) {
+            const char* at = static_cast<const char*>(std::memchr(from, '@', end - from));
+            if (at == nullptr)
+                return false; // fewer cells than columns: the general way fills them
+            if (end - at >= 3 && at[1] == '#' && at[2] == '@') {
+                from = at + 3;
+                starts_[found++] = from - begin;
+            } else {
+                from = at + 1;
+            }
+        }
+        const qsizetype stored = starts_[columnCount_ - 1]; // cells past the columns are dropped
+        char16_t* text = rows.addStored(stored, starts_.data());
+        widen_.appendToBuffer(reinterpret_cast<QChar*>(text), QByteArrayView(begin, stored));
+        return true;
+    }
+
     bool decode(const char* begin, const char* end)
     {
         const qsizetype size = end - begin;
@@ -81,12 +129,13 @@ private:
             cells_[c] = line.mid(from, at < 0 ? -1 : at - from);
         }
         rows.add(cells_.data(), columnCount_);
-        if (accountData_) {
-            const int row = rows.count() - 1;
-            rows[row].picture = row == 0 ? RowPicture::BookIcon
-                : rows.cell(row, kTypeColumn).compare(u"Revenue", Qt::CaseInsensitive) == 0 ? RowPicture::accountPlus9
-                                                                                              : RowPicture::accountMinus9;
-        }
+    }
+
+    void setPicture(int row)
+    {
+        rows[row].picture = row == 0 ? RowPicture::BookIcon
+            : rows.cell(row, kTypeColumn).compare(u"Revenue", Qt::CaseInsensitive) == 0 ? RowPicture::accountPlus9
+                                                                                          : RowPicture::accountMinus9;
     }
 
     // Where the next "@#@" starts, looking for its "@" with the fast character search.
@@ -106,6 +155,9 @@ private:
     std::vector<char16_t> text_;
     qsizetype textSize_ = 0;
     std::vector<QStringView> cells_;
+    std::vector<qsizetype> starts_;
+    // Qt's widening of single bytes, many at a time.
+    QStringDecoder widen_{QStringDecoder::Latin1, QStringDecoder::Flag::Stateless};
 };
 
 // The lines of one piece of a file; returns where the unfinished last line
