@@ -1,12 +1,10 @@
-// An account's transactions window, and the Print/Save items of the main window.
-#include "cli/PdfPrinterServices.h"
+// An account's transactions window.
 #include "cli/Verbs.h"
 
 #include "engine/RowLayouts.h"
 #include "platform/Clock.h"
 #include "platform/Dates.h"
 #include "reports/AccountTransactions.h"
-#include "reports/SummaryPrint.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,18 +60,4 @@ int accountListVerb(const Invocation& call, SummaryBooks& books)
     }
     call.out << "Balance:\t" << balance << '\n';
     return 0;
-}
-
-bool printOptionsUsable(const QCommandLineParser& parser, const QStringList&)
-{
-    const QString what = parser.value(u"what"_s);
-    return (what == u"accounts" || what == u"transactions" || what == u"both") && parser.isSet(u"pdf"_s);
-}
-
-int printVerb(const Invocation& call, SummaryBooks& books)
-{
-    const QString what = call.value(u"what"_s);
-    PdfPrinterServices printer;
-    printAll(what == u"both" ? u"all"_s : what, u"Quillmark"_s, books.accountsBox, books.transBox);
-    return printer.save(call);
 }

@@ -6,7 +6,16 @@
 #include "platform/BlockingServices.h"
 #include "platform/Clock.h"
 
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
+
+#include <cerrno>
+#include <cstring>
+#include <vector>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -202,7 +211,38 @@ bool openLedger(const Invocation& call, SummaryBooks& books)
     return true;
 }
 
-int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err)
+// quillmark-draw: beside this program in the build, in its own folder of
+// programs for programs once installed.
+QString drawingProgram()
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    for (const QString& path : {folder + u"/quillmark-draw"_s, folder + u"/" QUILLMARK_DRAW_FROM_BIN "/quillmark-draw"_s})
+        if (QFileInfo(path).isExecutable())
+            return path;
+    return {};
+}
+
+// Runs the command, as it was given, in quillmark-draw; returns only when that can't be done.
+int handOverToDrawing(const QStringList& arguments, QTextStream& err)
+{
+    const QString program = drawingProgram();
+    if (program.isEmpty()) {
+        err << "quillmark-cli: quillmark-draw, which draws, isn't where it was installed\n";
+        return 1;
+    }
+    std::vector<QByteArray> bytes;
+    for (const QString& argument : arguments)
+        bytes.push_back(QFile::encodeName(argument));
+    std::vector<char*> argv;
+    for (QByteArray& argument : bytes)
+        argv.push_back(argument.data());
+    argv.push_back(nullptr);
+    ::execv(QFile::encodeName(program).constData(), argv.data());
+    err << "quillmark-cli: couldn't run " << program << ": " << QString::fromLocal8Bit(std::strerror(errno)) << '\n';
+    return 1;
+}
+
+int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err, const DrawingVerbs& drawing)
 {
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -222,6 +262,8 @@ int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return 2;
     }
     const CommandLineClock clock(parser);
+    if (verb->draws && !drawing.contains(verb->name))
+        return handOverToDrawing(arguments, err);
     const QString dataFolder = parser.isSet(u"data"_s) ? parser.value(u"data"_s) : AppFolders::applicationData();
     const Invocation call{parser, words, dataFolder, out, err};
     if (!verb->opensLedger())
@@ -229,21 +271,10 @@ int runVerb(const QStringList& arguments, QTextStream& out, QTextStream& err)
     SummaryBooks books(AppFolders::existingBooks(dataFolder));
     if (!openLedger(call, books))
         return 1;
-    return verb->onLedger(call, books);
+    return verb->draws ? drawing.value(verb->name)(call, books) : verb->onLedger(call, books);
 }
 
 } // namespace
-
-bool commandDraws(const QStringList& arguments)
-{
-    QCommandLineParser parser;
-    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOptions(allOptions());
-    if (!parser.parse(arguments))
-        return false;
-    const Verb* verb = entryFor(parser, parser.positionalArguments());
-    return verb != nullptr && verb->draws;
-}
 
 int refused(const Invocation& call, const QString& problem)
 {
@@ -261,10 +292,10 @@ int transactionRow(const Invocation& call, const SummaryBooks& books, const QStr
     return index;
 }
 
-int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& err)
+int runCommandLine(const QStringList& arguments, QTextStream& out, QTextStream& err, const DrawingVerbs& drawing)
 {
     const CommandLineServices services;
-    int status = runVerb(arguments, out, err);
+    int status = runVerb(arguments, out, err, drawing);
     // What the windows would show (a refusal, a file that couldn't be read or
     // saved) goes to stderr, and the command has failed.
     for (const QString& message : services.shown)

@@ -1,5 +1,5 @@
 // The ledger report window, as text or printed to a PDF file.
-#include "cli/Verbs.h"
+#include "cli/DrawingVerbs.h"
 
 #include "cli/PdfPrinterServices.h"
 #include "platform/Clock.h"
@@ -8,19 +8,6 @@
 #include "reports/ListboxPrinter.h"
 
 using namespace Qt::StringLiterals;
-
-bool reportOptionsUsable(const QCommandLineParser& parser, const QStringList&)
-{
-    const bool year = parser.isSet(u"year"_s);
-    const bool showYear = parser.isSet(u"show-year"_s);
-    if (year && showYear)
-        return false;
-    if (!parser.isSet(u"month"_s))
-        return true;
-    bool number = false;
-    const int month = parser.value(u"month"_s).toInt(&number);
-    return number && month >= 0 && month <= 12 && !year && !showYear;
-}
 
 int reportVerb(const Invocation& call, SummaryBooks& books)
 {

@@ -24,12 +24,13 @@ struct Verb {
     // command line opens it, or refuses when the data folder has none of its name.
     int (*onLedger)(const Invocation& call, SummaryBooks& books) = nullptr;
     int (*withoutLedger)(const Invocation& call) = nullptr;
-    // Whether it draws (a picture, a PDF): only then does it need fonts, and
-    // so an application of the GUI, which takes longer to start than the
-    // whole of most commands.
+    // A verb that draws (a picture, a PDF) works on a ledger too, but needs
+    // fonts and so the GUI's libraries, which take longer to load than most
+    // commands run: its function is quillmark-draw's (DrawingVerbs.h), and
+    // quillmark-cli hands such a command over to it whole.
     bool draws = false;
 
-    bool opensLedger() const { return onLedger != nullptr; }
+    bool opensLedger() const { return onLedger != nullptr || draws; }
 };
 
 // Every verb, in the order of the help. A verb with two forms has an entry for

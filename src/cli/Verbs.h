@@ -5,8 +5,11 @@
 #include "ledger/TransactionOperations.h"
 
 #include <QCommandLineParser>
+#include <QSize>
 #include <QStringList>
 #include <QTextStream>
+
+#include <optional>
 
 // The verbs of quillmark-cli and the checks of their words and options, each
 // verb the same calls of the books that a window makes. A verb returns the
@@ -73,20 +76,20 @@ int reconcileVerb(const Invocation& call, SummaryBooks& books);
 bool transferOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
 int transferVerb(const Invocation& call, SummaryBooks& books);
 
+// The verbs that draw: their checks here, their functions in quillmark-draw
+// (DrawingVerbs.h).
 // --kind bar|pie, --out and a --size that is one.
 bool chartOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
-int chartVerb(const Invocation& call, SummaryBooks& books);
-
+// --size WxH, or the chart window's canvas; nothing when the text is no such size.
+std::optional<QSize> chartCanvas(const QCommandLineParser& parser);
 // At most one of --month M (0 to 12), --year Y and --show-year.
 bool reportOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
-int reportVerb(const Invocation& call, SummaryBooks& books);
+// --what accounts|transactions|both and --pdf.
+bool printOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
 
 // --from and --to, when given, are dates ParseDate reads.
 bool accountOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
 int accountListVerb(const Invocation& call, SummaryBooks& books);
-// --what accounts|transactions|both and --pdf.
-bool printOptionsUsable(const QCommandLineParser& parser, const QStringList& words);
-int printVerb(const Invocation& call, SummaryBooks& books);
 
 int exportVerb(const Invocation& call, SummaryBooks& books);
 // --map and the other options of import read as they should.

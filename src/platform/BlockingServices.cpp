@@ -3,8 +3,6 @@
 #include "platform/Hooks.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
-#include <QUrl>
 
 #include <cstdio>
 
@@ -24,7 +22,7 @@ BlockingServiceHooks defaultHooks()
     hooks.pageSetupDialog = [](PrinterSetup&) { return false; };
     hooks.openPrinterDialog = [](const PrinterSetup&) { return std::unique_ptr<Graphics>(); };
     hooks.beep = [] {};
-    hooks.showUrl = [](const QString& url) { QDesktopServices::openUrl(QUrl(url)); };
+    hooks.showUrl = [](const QString& url) { std::fprintf(stderr, "%s\n", url.toLocal8Bit().constData()); };
     hooks.quit = [] { QCoreApplication::quit(); };
     return hooks;
 }

@@ -10,11 +10,11 @@
 
 // The services that wait for the user or leave the program: message box,
 // confirmation dialog, file dialogs, page setup and printer dialogs, beep, web
-// browser, quit. Each goes through one replaceable
-// hook, so the windows install the real dialogs and a test scripts the answers and
-// records what was shown. Without the windows' hooks, messages go to stderr and a
-// confirmation is always answered "Cancel" and the file, page setup and printer
-// dialogs are cancelled: nothing irreversible happens unasked.
+// browser, quit. Each goes through one replaceable hook, so the windows install
+// the real dialogs and a test scripts the answers and records what was shown.
+// Without the windows' hooks, messages and web addresses go to stderr, a
+// confirmation is always answered "Cancel", and the file, page setup and
+// printer dialogs are cancelled: nothing irreversible happens unasked.
 
 struct MessageDialog {
     QString Message;

@@ -13,9 +13,16 @@ DESTDIR=$dest cmake --install "$build" --prefix /usr >/dev/null
 root=$dest/usr
 fail() { echo "$*" >&2; exit 1; }
 
-for file in bin/quillmark bin/quillmark-cli; do
+for file in bin/quillmark bin/quillmark-cli libexec/quillmark/quillmark-draw; do
     [ -x "$root/$file" ] || fail "no program $file"
 done
+# The command line finds its drawing half where it was installed: the refusal
+# of an unknown ledger comes from there.
+refusal=$("$root/bin/quillmark-cli" --data "$dest" print Nobody --what both --pdf "$dest/out.pdf" 2>&1 || true)
+case $refusal in
+    *"no ledger named"*) ;;
+    *) fail "the installed command line didn't hand a print over: $refusal" ;;
+esac
 desktop=$root/share/applications/$id.desktop
 metainfo=$root/share/metainfo/$id.metainfo.xml
 [ -f "$desktop" ] || fail "no $desktop"

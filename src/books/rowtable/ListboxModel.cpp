@@ -173,3 +173,7 @@ const QIcon& ListboxModel::iconOf(RowPicture picture) const
         icon = QIcon(rowPictureResource(picture));
     return icon;
 }
+
+// Its meta-object code here, not with the rest of the core's: a program that
+// uses a table but no model then loads no library of the GUI.
+#include "moc_ListboxModel.cpp"

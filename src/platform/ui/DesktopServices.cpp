@@ -3,12 +3,14 @@
 #include "platform/BlockingServices.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QUrl>
 
 namespace {
 
@@ -96,5 +98,6 @@ void installDesktopServices()
     hooks.pageSetupDialog = showPageSetupDialog;
     hooks.openPrinterDialog = showPrinterDialog;
     hooks.beep = [] { QApplication::beep(); };
+    hooks.showUrl = [](const QString& url) { QDesktopServices::openUrl(QUrl(url)); };
     installBlockingServices(hooks);
 }
