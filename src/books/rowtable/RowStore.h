@@ -73,8 +73,10 @@ public:
     {
         if (row < count()) {
             const Row& r = rows_[row];
-            __builtin_prefetch(r.entry);
-            __builtin_prefetch(r.entry + unitsOf(r) - 1);
+            const char* const end = reinterpret_cast<const char*>(r.entry + unitsOf(r));
+            for (const char* line = reinterpret_cast<const char*>(r.entry); line < end; line += 64)
+                __builtin_prefetch(line);
+            __builtin_prefetch(end - 1);
         }
     }
     void assign(int row, int column, QStringView text);
