@@ -1,10 +1,6 @@
-#include "books/rowtable/Listbox.h"
 #include "books/rowtable/ListboxManager.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -79,10 +75,9 @@ TEST_F(ListboxManagerTest, AccountRowsGetPicturesAndTransactionDatesTheStoredFor
     writeBytes(path(u"  ShopNotes"_s), accounts);
     Listbox table(u"accountsBox"_s, 4);
     manager.loadListBox(table, u"  Shop accountdata"_s);
-    const QList<RowPicture> pictures{RowPicture::BookIcon, RowPicture::accountPlus9, RowPicture::accountMinus9,
-                                     RowPicture::accountMinus9};
-    for (int row = 0; row < 4; ++row)
-        EXPECT_EQ(table.rowPicture(row), pictures[row]) << "row " << row;
+    EXPECT_EQ((QList<RowPicture>{table.rowPicture(0), table.rowPicture(1), table.rowPicture(2), table.rowPicture(3)}),
+              (QList<RowPicture>{RowPicture::BookIcon, RowPicture::accountPlus9, RowPicture::accountMinus9,
+                                 RowPicture::accountMinus9}));
     manager.loadListBox(table, u"  ShopNotes"_s);
     EXPECT_EQ(table.rowPicture(1), RowPicture::None) << "only account files get pictures";
 
@@ -90,8 +85,7 @@ TEST_F(ListboxManagerTest, AccountRowsGetPicturesAndTransactionDatesTheStoredFor
     writeBytes(path(u"rows"_s), "@#@Food@#@3/9/14@#@\n@#@Food@#@20140310@#@\n@#@Food@#@31/31/14@#@\n");
     Listbox transBox(u"transBox"_s, 12);
     manager.loadListBox(transBox, u"rows"_s);
-    EXPECT_EQ((QStringList{transBox.Cell(0, 2), transBox.Cell(1, 2), transBox.Cell(2, 2)}),
-              (QStringList{u"2014-03-09"_s, u"2014-03-10"_s, u"31/31/14"_s}));
+    EXPECT_EQ(columnOf(transBox, 2), (QStringList{u"2014-03-09"_s, u"2014-03-10"_s, u"31/31/14"_s}));
     manager.loadListBox(table, u"rows"_s);
     EXPECT_EQ(table.Cell(0, 2), u"3/9/14") << "only transactions";
 }
@@ -125,6 +119,5 @@ TEST_F(ListboxManagerTest, LongRowsAMarkAndALateNonUtf8ByteLoadAsTheWholeFileRea
     writeBytes(path(u"dates"_s), "@#@A@#@2014-03-11@#@\n@#@A@#@3/12/14@#@\n@#@A@#@2014-02-31@#@\n");
     Listbox transBox(u"transBox"_s, 12);
     manager.loadListBox(transBox, u"dates"_s);
-    EXPECT_EQ((QStringList{transBox.Cell(0, 2), transBox.Cell(1, 2), transBox.Cell(2, 2)}),
-              (QStringList{u"2014-03-11"_s, u"2014-03-12"_s, u"2014-02-31"_s}));
+    EXPECT_EQ(columnOf(transBox, 2), (QStringList{u"2014-03-11"_s, u"2014-03-12"_s, u"2014-02-31"_s}));
 }

@@ -6,11 +6,7 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
-
 #include <random>
-
-using namespace Qt::StringLiterals;
 
 TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
 {

@@ -5,10 +5,6 @@
 
 #include <QDir>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(Startup, MakesTheFoldersOnceKeepsWhatIsThereAndGivesOldLedgerFilesTheirTwoBlanks)
 {
     TempDataHome home;

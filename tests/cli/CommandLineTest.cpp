@@ -9,10 +9,6 @@
 #include <QImage>
 #include <QProcess>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct CliRun {
@@ -290,8 +286,8 @@ TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheFilterAskedOrTheirPdf)
                                       "   \tRent\t\t\t\t\t\t\n"
                                       "2014-03-10\t\tMarch\t\t-40,00\t\t\t\n"
                                       " \t\t\t\t\t\t\tExpense\n");
-    EXPECT_EQ(done(u"report Shop --month 2"_s), u"No transactions found\n");
-    EXPECT_EQ(done(u"report Shop --year 2013"_s), u"No transactions found\n");
+    for (const QString& filter : {u"--month 2"_s, u"--year 2013"_s})
+        EXPECT_EQ(done(u"report Shop "_s + filter), u"No transactions found\n");
     // Show Year on the year of --today.
     const CliRun run = runCli({u"--data"_s, home.path(), u"--today"_s, u"2015-01-01"_s, u"report"_s, u"Shop"_s, u"--show-year"_s});
     EXPECT_EQ(run.out, u"No transactions found\n");
@@ -309,11 +305,9 @@ TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheFilterAskedOrTheirPdf)
 TEST_F(CommandLineTest, AccountListsTheTransactionsWindowAndPrintPrintsTheSummary)
 {
     EXPECT_EQ(done(u"account Shop RENT"_s), u"\tRent\t2014-03-10\tMarch\t\t-40.00\t0.00\t-40.00 \t1\t\nBalance:\t\n");
-    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08 --to 20140309"_s),
-              u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n")
-        << "the range's total";
-    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08"_s), u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n")
-        << "To stays today";
+    const QString sale = u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n"_s;
+    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08 --to 20140309"_s), sale) << "the range's total";
+    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08"_s), sale) << "To stays today";
 
     const QString pdf = home.path() + u"/print.pdf"_s;
     done(u"print shop --what both --pdf "_s + pdf);

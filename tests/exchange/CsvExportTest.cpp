@@ -5,13 +5,8 @@
 #include "exchange/TransactionImport.h"
 #include "support/Cells.h"
 #include "support/DataFolder.h"
-#include "support/QtPrinters.h"
 
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 TEST(CsvExportTest, RecordsByteForByteThatTheDefaultMappingReadsBack)
 {

@@ -1,11 +1,6 @@
 #include "exchange/ImportFields.h"
 #include "exchange/ImportText.h"
-#include "support/QtPrinters.h"
 #include "support/ScriptedPlatform.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 // Dates and amounts of import files, one table a kind of outcome.
 TEST(ImportFieldsTest, DatesInEachOrder)

@@ -3,11 +3,6 @@
 #include "engine/RowLayouts.h"
 #include "exchange/TransactionImport.h"
 #include "support/Cells.h"
-#include "support/QtPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -9,10 +9,6 @@
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class AccountListOperationsTest : public ::testing::Test {

@@ -8,10 +8,6 @@
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class AccountRulesTest : public ::testing::Test {

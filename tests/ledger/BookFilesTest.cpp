@@ -14,11 +14,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 #include <sys/stat.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,13 +1,10 @@
 #include "engine/RowLayouts.h"
 #include "ledger/SummaryBooks.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
 #include <QMap>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,14 +31,7 @@ protected:
     void writeBook(const QString& name, const QByteArray& bytes) const { writeBytes(book(name), bytes); }
 
     Folder snapshot() const { return entriesUnder(home.path()); }
-
-    QStringList ledgerNames() const
-    {
-        QStringList names;
-        for (int row = 0; row < books.LedgerList.ListCount(); ++row)
-            names << books.LedgerList.Cell(row, 0);
-        return names;
-    }
+    QStringList ledgerNames() const { return columnOf(books.LedgerList, 0); }
 
     // The user edits the selected ledger's cell in place.
     void renameSelected(const QString& text)

@@ -14,11 +14,8 @@
 #include <QFile>
 #include <QRect>
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
-using namespace Qt::StringLiterals;
 using Step = FailingSaves::Step;
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/QtPrinters.h"
+#include "support/Testing.h"
 
 #include <QByteArray>
 #include <QMap>

@@ -67,7 +67,6 @@ FailingSaves::~FailingSaves()
 std::string stepName(FailingSaves::Step step)
 {
     switch (step) {
-    case FailingSaves::Step::None: return "none";
     case FailingSaves::Step::Create: return "create";
     case FailingSaves::Step::Write: return "write";
     case FailingSaves::Step::Sync: return "sync";

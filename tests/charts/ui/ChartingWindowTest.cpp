@@ -8,8 +8,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class ChartingWindowTest : public SummaryWindowTest {

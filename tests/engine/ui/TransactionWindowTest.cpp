@@ -14,8 +14,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class TransactionWindowTest : public SummaryWindowTest {

@@ -15,8 +15,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class IndAccWindowTest : public SummaryWindowTest {

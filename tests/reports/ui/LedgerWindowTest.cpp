@@ -15,8 +15,6 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class LedgerWindowTest : public SummaryWindowTest {
