@@ -35,8 +35,7 @@ TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
 TEST(Listbox, ChangeFiresInsideTheCallThatChangedTheSelection)
 {
     Listbox table(u"t"_s, 1);
-    for (const auto* name : {u"a", u"b", u"c"})
-        table.AddRow(QStringView(name));
+    addRows(table, {u"a"_s, u"b"_s, u"c"_s});
     QList<int> seen;
     QObject::connect(&table, &Listbox::Change, [&] { seen << table.ListIndex(); });
 
@@ -71,8 +70,7 @@ TEST(Listbox, MultipleSelectionSurvivesRemovalFromTheLastRowUp)
     EXPECT_EQ(table.ListIndex(), -1);
 
     Listbox single(u"s"_s, 1);
-    single.AddRow(u"a");
-    single.AddRow(u"b");
+    addRows(single, {u"a"_s, u"b"_s});
     single.SetSelected(0, true);
     single.SetSelected(1, true);
     EXPECT_FALSE(single.Selected(0)) << "a single-selection table keeps one row at most";
@@ -82,12 +80,7 @@ TEST(Listbox, MultipleSelectionSurvivesRemovalFromTheLastRowUp)
 TEST(Listbox, SortingReordersTheRowsThemselves)
 {
     Listbox table(u"t"_s, 3, Listbox::SelectionType::Multiple);
-    const QStringList dates{u"2014-03-09"_s, u"2013-12-31"_s, u"2014-03-09"_s, u"2014-01-15"_s};
-    for (int i = 0; i < dates.size(); ++i) {
-        table.AddRow(QString::number(i));
-        table.SetCell(i, 1, dates[i]);
-        table.SetCell(i, 2, i % 2 ? u"apple"_s : u"Banana"_s);
-    }
+    addRows(table, {u"0|2014-03-09|Banana"_s, u"1|2013-12-31|apple"_s, u"2|2014-03-09|Banana"_s, u"3|2014-01-15|apple"_s});
     table.SetSelected(0, true);
     table.SetCellCheck(0, 1, true);
 
@@ -171,8 +164,7 @@ TEST(Listbox, RowsKeepTheirCellsThroughEditsMovesAndTheReclaimingOfSpace)
 
     // Marks and styles stay with their rows when the space is reclaimed.
     Listbox styled(u"t"_s, 2);
-    styled.AddRow(u"a");
-    styled.AddRow(u"b");
+    addRows(styled, {u"a"_s, u"b"_s});
     styled.SetCellBold(0, 1, true);
     styled.SetCellCheck(0, 0, true);
     for (int i = 0; i < 4000; ++i)
@@ -192,15 +184,10 @@ TEST(ListboxModel, FollowsEveryChangeOfItsTableWithinTheModelContract)
     ListboxModel model(table);
     ModelContract contract(&model);
 
-    for (const QString& name : {u"Rent"_s, u"sales"_s, u"Fuel"_s, u"Bank"_s, u"cash"_s}) {
-        table.AddRow(u""_s);
-        table.SetCell(table.LastIndex(), 1, name);
-        table.SetCell(table.LastIndex(), 2, QString::number(table.LastIndex() * 10));
-    }
+    addRows(table, {u"|Rent|0"_s, u"|sales|10"_s, u"|Fuel|20"_s, u"|Bank|30|hidden"_s, u"|cash|40"_s});
     table.SetRowPicture(0, RowPicture::accountPlus9);
     table.SetCellCheck(1, 0, true);
     table.SetCellBold(2, 1, true);
-    table.SetCell(3, 3, u"hidden"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(model.columnCount(), 3) << "the cell past the last column is no column of the view";
     EXPECT_EQ(model.data(model.index(4, 1)).toString(), u"cash");
