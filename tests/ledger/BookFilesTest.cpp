@@ -5,6 +5,7 @@
 #include "engine/RowLayouts.h"
 #include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/FailingSaves.h"
 #include "support/ScriptedPlatform.h"
@@ -124,9 +125,7 @@ TEST_F(BookFilesTest, AFileThatCouldntBeReadIsNotWrittenOver)
     // The table shows nothing of the file; storing it would empty the ledger.
     platform.messages.clear();
     books.calcAll();
-    books.LedgerList.userBeganEdit(0, 0);
-    books.LedgerList.userEditedCell(0, 0, u"Store"_s);
-    books.LedgerList.userEndedEdit(0, 0);
+    typeInto(books.LedgerList, 0, 0, u"Store"_s);
     EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions);
     EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Shop") << "no rename without the files' content";
     EXPECT_EQ(platform.messages,

@@ -33,15 +33,6 @@ protected:
     Folder snapshot() const { return entriesUnder(home.path()); }
     QStringList ledgerNames() const { return columnOf(books.LedgerList, 0); }
 
-    // The user edits the selected ledger's cell in place.
-    void renameSelected(const QString& text)
-    {
-        const int row = books.LedgerList.ListIndex();
-        books.LedgerList.userBeganEdit(row, 0);
-        books.LedgerList.userEditedCell(row, 0, text);
-        books.LedgerList.userEndedEdit(row, 0);
-    }
-
     TempDataHome home;
     ScriptedPlatform platform;
     bool written = writeLedgers();
@@ -91,14 +82,14 @@ TEST_F(LedgerFlowsTest, RenameMovesTheFilesOrTouchesNone)
     books.LedgerList.SetListIndex(0);
     const Folder before = snapshot();
     for (const QString& name : {u""_s, u"   "_s, u"  home"_s, u"a/b"_s, u"tab\there"_s, u"Orphan"_s, QString(250, u'x')}) {
-        renameSelected(name);
+        typeInto(books.LedgerList, 0, 0, name);
         EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Shop") << name.toStdString();
         EXPECT_EQ(books.theLedger, u"  Shop");
         EXPECT_EQ(snapshot(), before) << name.toStdString();
     }
     EXPECT_EQ(platform.messages.size(), 7);
 
-    renameSelected(u"Store"_s); // typed without the blanks
+    typeInto(books.LedgerList, 0, 0, u"Store"_s); // typed without the blanks
     EXPECT_EQ(books.theLedger, u"  Store");
     EXPECT_EQ(readBytes(bookList()), QByteArray("  Store\n  Home\n"));
     EXPECT_FALSE(fileExists(book(u"  ShopAccountData"_s)));
@@ -107,8 +98,8 @@ TEST_F(LedgerFlowsTest, RenameMovesTheFilesOrTouchesNone)
     EXPECT_TRUE(readBytes(book(u"  StoreTransData"_s)).contains("Sale"));
 
     // Unchanged text, or only another case: stored again, nothing deleted.
-    renameSelected(u"  Store"_s);
-    renameSelected(u"  STORE"_s);
+    typeInto(books.LedgerList, 0, 0, u"  Store"_s);
+    typeInto(books.LedgerList, 0, 0, u"  STORE"_s);
     EXPECT_TRUE(fileExists(book(u"  StoreAccountData"_s)));
     EXPECT_TRUE(fileExists(book(u"  STOREAccountData"_s)));
     EXPECT_EQ(readBytes(bookList()), QByteArray("  STORE\n  Home\n"));

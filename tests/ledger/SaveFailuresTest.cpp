@@ -6,6 +6,7 @@
 #include "engine/RowLayouts.h"
 #include "ledger/SummaryBooks.h"
 #include "reference/GeneratedLedger.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/FailingSaves.h"
 #include "support/ScriptedPlatform.h"
@@ -145,9 +146,7 @@ TEST_F(SaveFailuresTest, OneOperationTellsOnceThoughBothFilesFailAndARenameKeeps
     {
         const FailingSaves failing(Step::Write, 0);
         books->calcAll();
-        books->LedgerList.userBeganEdit(0, 0);
-        books->LedgerList.userEditedCell(0, 0, u"Store"_s);
-        books->LedgerList.userEndedEdit(0, 0);
+        typeInto(books->LedgerList, 0, 0, u"Store"_s);
     }
     EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
     EXPECT_EQ(books->theLedger, u"  Shop");
@@ -162,9 +161,7 @@ TEST_F(SaveFailuresTest, ARenameWhoseListCantBeSavedTakesBackTheFilesOfTheNewNam
     const auto books = openShop();
     const QString list = home.quillmark() + u"/BookList"_s;
     ASSERT_TRUE(QFile::remove(list) && QDir().mkdir(list)); // a folder where the list should be written
-    books->LedgerList.userBeganEdit(0, 0);
-    books->LedgerList.userEditedCell(0, 0, u"Store"_s);
-    books->LedgerList.userEndedEdit(0, 0);
+    typeInto(books->LedgerList, 0, 0, u"Store"_s);
     EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
     EXPECT_TRUE(fileExists(home.books() + u"/  ShopTransData"_s));
     EXPECT_FALSE(fileExists(home.books() + u"/  StoreTransData"_s));

@@ -35,3 +35,11 @@ inline void addRows(Listbox& table, const QStringList& lines)
             table.SetCell(table.LastIndex(), column, cells[column]);
     }
 }
+
+// The user types text into a cell in place, as into the name of a ledger.
+inline void typeInto(Listbox& table, int row, int column, const QString& text)
+{
+    table.userBeganEdit(row, column);
+    table.userEditedCell(row, column, text);
+    table.userEndedEdit(row, column);
+}
