@@ -31,16 +31,10 @@ constexpr const char* kTransactions =
 
 class BalanceCalculationTest : public ::testing::Test {
 protected:
-    BalanceCalculationTest()
-    {
-        home.makeFolders();
-        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n");
-        writeBytes(accountsFile, kAccounts);
-        writeBytes(home.books() + u"/  ShopTransData"_s, kTransactions);
-    }
+    BalanceCalculationTest() { home.writeShop("  Shop\n", kAccounts, kTransactions); }
 
     TempDataHome home;
-    const QString accountsFile = home.books() + u"/  ShopAccountData"_s;
+    const QString accountsFile = home.shop("Account");
     // Before the monthly row falls due: opening the ledger posts nothing.
     FixedClock clock{QDateTime(QDate(2014, 3, 31), QTime(12, 0))};
 };
@@ -81,7 +75,7 @@ TEST_F(BalanceCalculationTest, GivesEveryAccountItsFiguresOnAPeriodSystem)
                          "@#@Office@#@Expense@#@12,5@#@-35@#@-22.5@#@@#@\n"
                          "@#@Travel@#@Expense@#@.00@#@0@#@0@#@@#@\n"
                          "@#@Savings@#@Revenue@#@10.125@#@0.333@#@10.458@#@@#@\n"));
-    const QByteArray transactions = readBytes(home.books() + u"/  ShopTransData"_s);
+    const QByteArray transactions = readBytes(home.shop("Trans"));
     EXPECT_TRUE(transactions.contains("@#@Sales@#@2014-03-10@#@Invoice 2@#@@#@50,5@#@@#@ 50,5 @#@3477254400@#@"));
     EXPECT_TRUE(transactions.contains("\n@#@GST@#@2014-03-11@#@Paper@#@@#@@#@@#@@#@3477340800@#@"));
 
@@ -140,7 +134,7 @@ TEST_F(BalanceCalculationTest, OpeningALedgerPostsTheRepeatsDueWithoutStoringOrR
     books.LedgerList.SetListIndex(0);
     EXPECT_EQ(books.transBox.Cell(7, TransCol::Date), u"2014-04-10");
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Balance), u"") << "not recalculated";
-    EXPECT_EQ(readBytes(home.books() + u"/  ShopTransData"_s), kTransactions) << "not stored";
+    EXPECT_EQ(readBytes(home.shop("Trans")), kTransactions) << "not stored";
 }
 
 TEST(BalanceCalculation, OnePassEqualsTheAccountByAccountScan)

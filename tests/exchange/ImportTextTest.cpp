@@ -33,6 +33,7 @@ TEST(ImportFieldsTest, DatesInEachOrder)
         {"wrong order", u"05.03.2014", ymd, {}},
         {"unknown month", u"5 Mars 2014", dmy, {}},
         {"three-digit year", u"5.3.214", dmy, {}},
+        {"three-digit day", u"005.3.2014", dmy, {}},
         {"two parts", u"2014-03", ymd, {}},
         {"letters after", u"2014-03-05x", ymd, {}},
         {"empty", u"", ymd, {}},

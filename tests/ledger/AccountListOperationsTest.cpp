@@ -20,26 +20,17 @@ protected:
         loadAccount(list, books.transBox, u"Rent"_s);
     }
 
-    // "  Shop": Rent's transactions at rows 0, 2 and 3 of transBox. Written
-    // before the books read the list.
-    bool writeLedger() const
-    {
-        home.makeFolders();
-        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n");
-        writeBytes(transPath, "@#@Rent@#@2014-01-09@#@r0@#@@#@-10@#@@#@-10@#@@#@@#@@#@Never@#@\n"
-                              "@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5@#@@#@@#@@#@Never@#@\n"
-                              "@#@Rent@#@2014-02-09@#@r2@#@@#@-20@#@@#@-20@#@@#@@#@@#@Never@#@\n"
-                              "@#@rent@#@2014-03-09@#@r3@#@@#@-40@#@@#@-40@#@@#@@#@@#@Never@#@\n");
-        writeBytes(home.books() + u"/  ShopAccountData"_s,
-                   "@#@Balance@#@@#@100@#@@#@@#@@#@\n@#@Rent@#@Expense@#@0@#@@#@@#@@#@\n@#@Sales@#@Revenue@#@0@#@@#@@#@@#@\n");
-        return true;
-    }
-
     TempDataHome home;
-    const QString transPath = home.books() + u"/  ShopTransData"_s;
+    const QString transPath = home.shop("Trans");
     ScriptedPlatform platform;
     FixedClock clock{QDateTime(QDate(2014, 5, 1), QTime(12, 0))};
-    bool written = writeLedger();
+    // "  Shop": Rent's transactions at rows 0, 2 and 3 of transBox.
+    bool written = home.writeShop(
+        "  Shop\n", "@#@Balance@#@@#@100@#@@#@@#@@#@\n@#@Rent@#@Expense@#@0@#@@#@@#@@#@\n@#@Sales@#@Revenue@#@0@#@@#@@#@@#@\n",
+        "@#@Rent@#@2014-01-09@#@r0@#@@#@-10@#@@#@-10@#@@#@@#@@#@Never@#@\n"
+        "@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5@#@@#@@#@@#@Never@#@\n"
+        "@#@Rent@#@2014-02-09@#@r2@#@@#@-20@#@@#@-20@#@@#@@#@@#@Never@#@\n"
+        "@#@rent@#@2014-03-09@#@r3@#@@#@-40@#@@#@-40@#@@#@@#@@#@Never@#@\n");
     SummaryBooks books{home.books()};
     Listbox list{u"ListBox1"_s, AccountListCol::Count, Listbox::SelectionType::Multiple};
     int balanceUpdates = 0;
@@ -85,7 +76,7 @@ TEST_F(AccountListOperationsTest, DeletingLinesTakesTheirRowsAndLowersTheLinksAf
               QByteArray("@#@Sales@#@2014-01-10@#@s1@#@@#@5@#@@#@5.00@#@3472156800@#@@#@@#@Never@#@\n"
                          "@#@rent@#@2014-03-09@#@r3@#@@#@-40@#@@#@-40.00@#@3477168000@#@@#@@#@Never@#@\n"))
         << "both tables stored once more after the calculation, as shown";
-    EXPECT_TRUE(readBytes(home.books() + u"/  ShopAccountData"_s).contains("@#@Rent@#@Expense@#@0.00@#@-40.00@#@"));
+    EXPECT_TRUE(readBytes(home.shop("Account")).contains("@#@Rent@#@Expense@#@0.00@#@-40.00@#@"));
 }
 
 TEST_F(AccountListOperationsTest, ALinkFallsByOneForASingleRowRemovedBelowIt)

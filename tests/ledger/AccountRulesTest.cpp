@@ -14,21 +14,6 @@ class AccountRulesTest : public ::testing::Test {
 protected:
     AccountRulesTest() { books.LedgerList.SetListIndex(0); }
 
-    // "  Shop" with the Base Account, a revenue and an expense account;
-    // "  Empty" without files. Written before the books read the list.
-    bool writeLedgers() const
-    {
-        home.makeFolders();
-        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n  Empty\n");
-        writeBytes(accountsPath, "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"
-                                 "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n"
-                                 "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(transPath, "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
-                              "@#@Rent@#@2026-01-04@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
-                              "@#@SALES@#@2026-01-05@#@till@#@@#@5@#@0@#@5@#@@#@@#@@#@Never@#@\n");
-        return true;
-    }
-
     QString save(const QString& name, const QString& type = u"Expense"_s, const QString& opening = {},
                  const QString& notes = {}, bool checkName = true, int row = -1, const QString& oldName = {})
     {
@@ -36,10 +21,17 @@ protected:
     }
 
     TempDataHome home;
-    const QString accountsPath = home.books() + u"/  ShopAccountData"_s;
-    const QString transPath = home.books() + u"/  ShopTransData"_s;
+    const QString accountsPath = home.shop("Account");
+    const QString transPath = home.shop("Trans");
     ScriptedPlatform platform;
-    bool written = writeLedgers();
+    // "  Shop" with the Base Account, a revenue and an expense account; "  Empty" without files.
+    bool written = home.writeShop("  Shop\n  Empty\n",
+                                  "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n"
+                                  "@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n"
+                                  "@#@Rent@#@Expense@#@0.00@#@0@#@0@#@@#@\n",
+                                  "@#@sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@@#@Never@#@\n"
+                                  "@#@Rent@#@2026-01-04@#@January@#@@#@-20@#@0@#@-20@#@@#@@#@@#@Never@#@\n"
+                                  "@#@SALES@#@2026-01-05@#@till@#@@#@5@#@0@#@5@#@@#@@#@@#@Never@#@\n");
     SummaryBooks books{home.books()};
 };
 

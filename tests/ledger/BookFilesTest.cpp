@@ -23,10 +23,8 @@ class BookFilesTest : public ::testing::Test {
 protected:
     BookFilesTest()
     {
-        home.makeFolders();
-        writeBytes(bookList, "  Shop\n");
-        writeBytes(book(u"  ShopAccountData"_s), "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(book(u"  ShopTransData"_s), "@#@Sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@false@#@Never@#@\n");
+        home.writeShop("  Shop\n", "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n",
+                       "@#@Sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@false@#@Never@#@\n");
     }
 
     QString book(const QString& name) const { return home.books() + u'/' + name; }

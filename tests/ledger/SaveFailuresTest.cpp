@@ -118,7 +118,7 @@ TEST_F(SaveFailuresTest, EveryFailingStepKeepsEveryKindOfFileAsItWas)
 TEST_F(SaveFailuresTest, AFullWriteGoesThroughAndAFailingFolderSyncIsToldWithoutClaimingTheOldFile)
 {
     const auto books = openShop();
-    const QString transactions = home.books() + u"/  ShopTransData"_s;
+    const QString transactions = home.shop("Trans");
     books->transBox.userToggledCheck(0, TransCol::Account);
     const QByteArray saved = readBytes(transactions);
     ASSERT_GT(saved.size(), kPiece + 100) << "the ledger is written in more than one piece";
@@ -163,7 +163,7 @@ TEST_F(SaveFailuresTest, ARenameWhoseListCantBeSavedTakesBackTheFilesOfTheNewNam
     ASSERT_TRUE(QFile::remove(list) && QDir().mkdir(list)); // a folder where the list should be written
     typeInto(books->LedgerList, 0, 0, u"Store"_s);
     EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
-    EXPECT_TRUE(fileExists(home.books() + u"/  ShopTransData"_s));
+    EXPECT_TRUE(fileExists(home.shop("Trans")));
     EXPECT_FALSE(fileExists(home.books() + u"/  StoreTransData"_s));
     EXPECT_FALSE(fileExists(home.books() + u"/  StoreAccountData"_s));
 }

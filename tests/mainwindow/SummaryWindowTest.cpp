@@ -144,7 +144,7 @@ TEST_F(SummaryWindowTest, ClosingStoresTheOpenLedgerAndTheWindowsPlace)
     window->setGeometry(30, 40, 900, 650);
     window->close();
     EXPECT_EQ(platform.quits, 1);
-    EXPECT_TRUE(readBytes(home.books() + u"/  ShopAccountData"_s).contains("@#@kept on closing@#@\n"));
+    EXPECT_TRUE(stored("Account").contains("@#@kept on closing@#@\n"));
     EXPECT_EQ(readBytes(home.books() + u"/WindowData"_s), QByteArray("40\n30\n900\n650\n"));
     EXPECT_EQ(readBytes(home.path() + u"/Quillmark_WindowData"_s), QByteArray("Quillmark;30;40;900;650\n"));
 }
@@ -155,7 +155,7 @@ TEST_F(SummaryWindowTest, ClosingOnAFullDiskSaysSoOnceBeforeTheEndAndKeepsTheFil
     SummaryWindow* window = shownWindow();
     window->LedgerList().SetListIndex(0);
     window->accountsBox().SetCell(0, 6, u"not stored"_s);
-    const QByteArray accounts = readBytes(home.books() + u"/  ShopAccountData"_s);
+    const QByteArray accounts = stored("Account");
     int quitsWhenTold = -1;
     const BlockingServiceHooks scripted = blockingServices();
     BlockingServiceHooks watching;
@@ -174,7 +174,7 @@ TEST_F(SummaryWindowTest, ClosingOnAFullDiskSaysSoOnceBeforeTheEndAndKeepsTheFil
               QStringList{u"Quillmark couldn't save the places of its windows: No space left on device.\n\n"
                           "Quillmark couldn't save the ledger \"Shop\": No space left on device. It stays as it was "
                           "before this change."_s});
-    EXPECT_EQ(readBytes(home.books() + u"/  ShopAccountData"_s), accounts);
+    EXPECT_EQ(stored("Account"), accounts);
     EXPECT_EQ(QDir(home.books()).entryList(QDir::Files).size(), 2) << "nothing left beside the files";
 }
 
