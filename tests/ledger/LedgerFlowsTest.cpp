@@ -16,10 +16,9 @@ protected:
     // Written before the books read the list.
     bool writeLedgers() const
     {
-        home.makeFolders();
-        writeBytes(bookList(), "Shop\r\n\r\n  Home\n\n");
-        writeBook(u"  ShopAccountData"_s, "999@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@@#@\n");
-        writeBook(u"  ShopTransData"_s, "7@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n");
+        home.writeShop("Shop\r\n\r\n  Home\n\n",
+                       "999@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@@#@\n",
+                       "7@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n");
         writeBook(u"  HomeAccountData"_s, "@#@Balance@#@@#@50.00@#@0@#@50@#@@#@\n");
         writeBook(u"  HomeTransData"_s, "");
         writeBook(u"  OrphanTransData"_s, "@#@someone else's@#@\n");
