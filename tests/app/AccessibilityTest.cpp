@@ -27,8 +27,6 @@
 #include <QMenuBar>
 #include <QShortcut>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString accessibleName(QWidget* widget)

@@ -9,8 +9,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // The start screen with the update server of the test's run: it answers every

@@ -1,16 +1,14 @@
 #include "books/rowtable/Listbox.h"
+#include "books/rowtable/ListboxManager.h"
 #include "books/rowtable/ListboxModel.h"
 #include "support/Cells.h"
+#include "support/DataFolder.h"
 #include "support/ModelContract.h"
 
 #include <QCoreApplication>
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
-
 #include <random>
-
-using namespace Qt::StringLiterals;
 
 TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
 {
@@ -39,8 +37,7 @@ TEST(Listbox, CellsOfDifferentLengthsKeepTheirPlaces)
 TEST(Listbox, ChangeFiresInsideTheCallThatChangedTheSelection)
 {
     Listbox table(u"t"_s, 1);
-    for (const auto* name : {u"a", u"b", u"c"})
-        table.AddRow(QStringView(name));
+    addRows(table, {u"a"_s, u"b"_s, u"c"_s});
     QList<int> seen;
     QObject::connect(&table, &Listbox::Change, [&] { seen << table.ListIndex(); });
 
@@ -75,8 +72,7 @@ TEST(Listbox, MultipleSelectionSurvivesRemovalFromTheLastRowUp)
     EXPECT_EQ(table.ListIndex(), -1);
 
     Listbox single(u"s"_s, 1);
-    single.AddRow(u"a");
-    single.AddRow(u"b");
+    addRows(single, {u"a"_s, u"b"_s});
     single.SetSelected(0, true);
     single.SetSelected(1, true);
     EXPECT_FALSE(single.Selected(0)) << "a single-selection table keeps one row at most";
@@ -86,12 +82,7 @@ TEST(Listbox, MultipleSelectionSurvivesRemovalFromTheLastRowUp)
 TEST(Listbox, SortingReordersTheRowsThemselves)
 {
     Listbox table(u"t"_s, 3, Listbox::SelectionType::Multiple);
-    const QStringList dates{u"2014-03-09"_s, u"2013-12-31"_s, u"2014-03-09"_s, u"2014-01-15"_s};
-    for (int i = 0; i < dates.size(); ++i) {
-        table.AddRow(QString::number(i));
-        table.SetCell(i, 1, dates[i]);
-        table.SetCell(i, 2, i % 2 ? u"apple"_s : u"Banana"_s);
-    }
+    addRows(table, {u"0|2014-03-09|Banana"_s, u"1|2013-12-31|apple"_s, u"2|2014-03-09|Banana"_s, u"3|2014-01-15|apple"_s});
     table.SetSelected(0, true);
     table.SetCellCheck(0, 1, true);
 
@@ -175,8 +166,7 @@ TEST(Listbox, RowsKeepTheirCellsThroughEditsMovesAndTheReclaimingOfSpace)
 
     // Marks and styles stay with their rows when the space is reclaimed.
     Listbox styled(u"t"_s, 2);
-    styled.AddRow(u"a");
-    styled.AddRow(u"b");
+    addRows(styled, {u"a"_s, u"b"_s});
     styled.SetCellBold(0, 1, true);
     styled.SetCellCheck(0, 0, true);
     for (int i = 0; i < 4000; ++i)
@@ -196,15 +186,10 @@ TEST(ListboxModel, FollowsEveryChangeOfItsTableWithinTheModelContract)
     ListboxModel model(table);
     ModelContract contract(&model);
 
-    for (const QString& name : {u"Rent"_s, u"sales"_s, u"Fuel"_s, u"Bank"_s, u"cash"_s}) {
-        table.AddRow(u""_s);
-        table.SetCell(table.LastIndex(), 1, name);
-        table.SetCell(table.LastIndex(), 2, QString::number(table.LastIndex() * 10));
-    }
+    addRows(table, {u"|Rent|0"_s, u"|sales|10"_s, u"|Fuel|20"_s, u"|Bank|30|hidden"_s, u"|cash|40"_s});
     table.SetRowPicture(0, RowPicture::accountPlus9);
     table.SetCellCheck(1, 0, true);
     table.SetCellBold(2, 1, true);
-    table.SetCell(3, 3, u"hidden"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(model.columnCount(), 3) << "the cell past the last column is no column of the view";
     EXPECT_EQ(model.data(model.index(4, 1)).toString(), u"cash");
@@ -251,4 +236,126 @@ TEST(ListboxModel, CellChangesOfOneTurnReachTheViewAsOneRange)
     QCoreApplication::processEvents();
     EXPECT_EQ(changed.count(), 1) << "the hidden cell shows nowhere";
     EXPECT_EQ(contract.breaches(), "");
+}
+
+namespace {
+
+class ListboxManagerTest : public ::testing::Test {
+protected:
+    ListboxManagerTest() { manager.ProgramDataFolder = home.books(); home.makeFolders(); }
+
+    QString path(const QString& name) const { return home.books() + u'/' + name; }
+
+    TempDataHome home;
+    ListboxManager manager;
+};
+
+} // namespace
+
+TEST_F(ListboxManagerTest, SavesEveryCellFollowedByTheSeparatorAndLoadsWithColumnZeroEmpty)
+{
+    Listbox table(u"t"_s, 3);
+    manager.saveListBox(table, u"  ShopAccountData"_s);
+    EXPECT_EQ(readBytes(path(u"  ShopAccountData"_s)), QByteArray()) << "a table without rows gives a file of length 0";
+    EXPECT_TRUE(fileExists(path(u"  ShopAccountData"_s)));
+
+    // Blank lines, other systems' line ends, short lines, extra fields, a
+    // separator cut short and a first field that must not survive.
+    writeBytes(path(u"table"_s), "999@#@Cash@#@1200.00@#@\r\n"
+                                 "\n"
+                                 "\r\n"
+                                 "1@#@Short\r"
+                                 "2@#@a@#@b@#@extra@#@more@#@\n"
+                                 "@#@a@b@@#@c@#x@#@extra@#@\n"
+                                 "3@#@cut@#\n"
+                                 "@#@\xC3\xA9t\xC3\xA9 \xF0\x9F\x92\xB6@#@@#@");
+    table.AddRow(u"replaced by the load");
+    manager.loadListBox(table, u"table"_s);
+    EXPECT_EQ(table.ListCount(), 6);
+    EXPECT_EQ(table.Cell(2, 3), u"") << "extra fields are ignored, not kept in the hidden cell";
+    table.SetCell(0, 3, u"hidden, never stored");
+    table.SetCell(1, 0, u"x");
+    manager.saveListBox(table, u"table"_s);
+    EXPECT_EQ(readBytes(path(u"table"_s)),
+              QByteArray("@#@Cash@#@1200.00@#@\nx@#@Short@#@@#@\n@#@a@#@b@#@\n@#@a@b@@#@c@#x@#@\n@#@cut@#@@#@\n"
+                         "@#@\xC3\xA9t\xC3\xA9 \xF0\x9F\x92\xB6@#@@#@\n"));
+
+    writeBytes(path(u"old"_s), "@#@Caf\xE9@#@\n@#@Caf\xE9@#@\xFF@#@\n"); // Latin-1, not valid UTF-8
+    manager.loadListBox(table, u"old"_s);
+    EXPECT_EQ(table.Cell(0, 1), u"Café") << "an older one-byte encoding loses no bit";
+    EXPECT_EQ(table.Cell(1, 2), u"\u00FF");
+}
+
+TEST_F(ListboxManagerTest, NothingIsReadOrWrittenWithoutAFileOrAFolderOrWhileADeletionRuns)
+{
+    Listbox table(u"t"_s, 2);
+    table.AddRow(u"kept");
+    manager.loadListBox(table, u"no such file"_s);
+    EXPECT_EQ(table.ListCount(), 1);
+
+    ListboxManager unset; // no "Books" folder
+    writeBytes(path(u"  ShopTransData"_s), "@#@before@#@\n");
+    unset.loadListBox(table, u"  ShopTransData"_s);
+    unset.saveListBox(table, u"  ShopTransData"_s);
+    EXPECT_EQ(table.Cell(0, 0), u"kept");
+
+    manager.deletingOn = true;
+    manager.saveListBox(table, u"  ShopTransData"_s);
+    manager.saveListBox(table, u"  OtherTransData"_s);
+    EXPECT_EQ(readBytes(path(u"  ShopTransData"_s)), QByteArray("@#@before@#@\n"));
+    EXPECT_FALSE(fileExists(path(u"  OtherTransData"_s)));
+}
+
+TEST_F(ListboxManagerTest, AccountRowsGetPicturesAndTransactionDatesTheStoredForm)
+{
+    const QByteArray accounts = "@#@Balance@#@@#@\n@#@Sales@#@revenue@#@\n@#@Rent@#@Expense@#@\n@#@Old@#@asset@#@\n";
+    writeBytes(path(u"  Shop accountdata"_s), accounts);
+    writeBytes(path(u"  ShopNotes"_s), accounts);
+    Listbox table(u"accountsBox"_s, 4);
+    manager.loadListBox(table, u"  Shop accountdata"_s);
+    EXPECT_EQ((QList<RowPicture>{table.rowPicture(0), table.rowPicture(1), table.rowPicture(2), table.rowPicture(3)}),
+              (QList<RowPicture>{RowPicture::BookIcon, RowPicture::accountPlus9, RowPicture::accountMinus9,
+                                 RowPicture::accountMinus9}));
+    manager.loadListBox(table, u"  ShopNotes"_s);
+    EXPECT_EQ(table.rowPicture(1), RowPicture::None) << "only account files get pictures";
+
+    // US short dates read month first; a date that isn't one stays as it is.
+    writeBytes(path(u"rows"_s), "@#@Food@#@3/9/14@#@\n@#@Food@#@20140310@#@\n@#@Food@#@31/31/14@#@\n");
+    Listbox transBox(u"transBox"_s, 12);
+    manager.loadListBox(transBox, u"rows"_s);
+    EXPECT_EQ(columnOf(transBox, 2), (QStringList{u"2014-03-09"_s, u"2014-03-10"_s, u"31/31/14"_s}));
+    manager.loadListBox(table, u"rows"_s);
+    EXPECT_EQ(table.Cell(0, 2), u"3/9/14") << "only transactions";
+}
+
+TEST_F(ListboxManagerTest, LongRowsAMarkAndALateNonUtf8ByteLoadAsTheWholeFileReads)
+{
+    // One cell longer than any piece the file is read in, and than 16-bit
+    // starts reach; a byte-order mark only counts at the very start.
+    const QByteArray longCell(300000, 'x');
+    writeBytes(path(u"long"_s), "\xEF\xBB\xBF@#@first@#@\n@#@" + longCell + "@#@after@#@\n\xEF\xBB\xBF@#@mid@#@");
+    Listbox table(u"t"_s, 3);
+    manager.loadListBox(table, u"long"_s);
+    ASSERT_EQ(table.ListCount(), 3);
+    EXPECT_EQ(table.Cell(0, 1), u"first");
+    EXPECT_EQ(table.Cell(1, 1), QString::fromLatin1(longCell));
+    EXPECT_EQ(table.Cell(1, 2), u"after");
+    EXPECT_EQ(table.Cell(2, 0), u"") << "the mark of a later line stands in its first field";
+    EXPECT_EQ(table.Cell(2, 1), u"mid");
+    table.SetCell(1, 1, u"short now");
+    EXPECT_EQ(table.Cell(1, 2), u"after");
+
+    // A byte that isn't UTF-8 far beyond the first piece turns the whole file,
+    // the lines before it included, into Latin-1.
+    writeBytes(path(u"late"_s), "@#@\xC3\xA9@#@\n@#@" + longCell + "@#@\n@#@Caf\xE9@#@");
+    manager.loadListBox(table, u"late"_s);
+    ASSERT_EQ(table.ListCount(), 3);
+    EXPECT_EQ(table.Cell(0, 1), u"\u00C3\u00A9");
+    EXPECT_EQ(table.Cell(2, 1), u"Café");
+
+    // A date in the stored form stays as it is, a day that doesn't exist included.
+    writeBytes(path(u"dates"_s), "@#@A@#@2014-03-11@#@\n@#@A@#@3/12/14@#@\n@#@A@#@2014-02-31@#@\n");
+    Listbox transBox(u"transBox"_s, 12);
+    manager.loadListBox(transBox, u"dates"_s);
+    EXPECT_EQ(columnOf(transBox, 2), (QStringList{u"2014-03-11"_s, u"2014-03-12"_s, u"2014-02-31"_s}));
 }

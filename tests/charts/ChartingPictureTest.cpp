@@ -2,14 +2,11 @@
 // the inner picture is 543 by 398, its grid lines from row 10 down to row 382.
 #include "charts/chartingPicture.h"
 #include "platform/Numbers.h"
+#include "support/Testing.h"
 
 #include <QElapsedTimer>
 
-#include <gtest/gtest.h>
-
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -9,10 +9,6 @@
 #include <QImage>
 #include <QProcess>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct CliRun {
@@ -44,18 +40,15 @@ class CommandLineTest : public ::testing::Test {
 protected:
     CommandLineTest()
     {
-        home.makeFolders();
-        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n  Home Ledger\n");
-        writeBytes(book(u"Account"_s), "@#@Balance@#@asset@#@100.00@#@@#@@#@@#@\n"
-                                       "@#@Sales@#@Revenue@#@5,5@#@@#@@#@@#@\n"
-                                       "@#@Rent@#@Expense@#@@#@@#@@#@@#@\n");
-        writeBytes(book(u"Trans"_s), "@#@sales@#@2014-03-09@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@false@#@Never@#@\n"
-                                     "@#@Rent@#@2014-03-10@#@March@#@@#@-40@#@@#@-40,00@#@@#@@#@true@#@Monthly@#@\n");
+        home.writeShop("  Shop\n  Home Ledger\n",
+                       "@#@Balance@#@asset@#@100.00@#@@#@@#@@#@\n"
+                       "@#@Sales@#@Revenue@#@5,5@#@@#@@#@@#@\n"
+                       "@#@Rent@#@Expense@#@@#@@#@@#@@#@\n",
+                       "@#@sales@#@2014-03-09@#@Sale@#@@#@12.5@#@@#@12.50@#@@#@@#@false@#@Never@#@\n"
+                       "@#@Rent@#@2014-03-10@#@March@#@@#@-40@#@@#@-40,00@#@@#@@#@true@#@Monthly@#@\n");
     }
 
-    // kind: "Account" or "Trans".
-    QString book(const QString& kind) const { return home.books() + u"/  Shop"_s + kind + u"Data"_s; }
-    QByteArray stored(const QString& kind) const { return readBytes(book(kind)); }
+    QByteArray stored(const char* kind) const { return readBytes(home.shop(kind)); }
     // The data folder, on a day before the monthly row falls due.
     QStringList data() const { return {u"--data"_s, home.path(), u"--today"_s, u"2014-03-31"_s}; }
 
@@ -177,15 +170,15 @@ TEST_F(CommandLineTest, LedgerVerbsListPrintStoreAndRecalculate)
     // --today is the present of the repeats; repeats stores without recalculating.
     const CliRun run = runCli({u"--data"_s, home.path(), u"--today"_s, u"2014-06-01"_s, u"repeats"_s, u"Shop"_s});
     EXPECT_EQ(run.status, 0) << run.err.toStdString();
-    EXPECT_TRUE(stored(u"Trans"_s).endsWith("\n@#@Rent@#@2014-04-10@#@March@#@@#@-40@#@@#@-40,00@#@@#@@#@true@#@Monthly@#@\n"));
-    EXPECT_EQ(stored(u"Account"_s), before[book(u"Account"_s)]);
+    EXPECT_TRUE(stored("Trans").endsWith("\n@#@Rent@#@2014-04-10@#@March@#@@#@-40@#@@#@-40,00@#@@#@@#@true@#@Monthly@#@\n"));
+    EXPECT_EQ(stored("Account"), before[home.shop("Account")]);
 
     done(u"recalc SHOP"_s);
     EXPECT_EQ(done(u"balances Shop"_s), u"Balance\tBase Account\t32.5\nSales\tRevenue\t18\nRent\tExpense\t-80\n");
 
     // The decimal mark is the system's: the stored "12.50" is stored as "12,50" on a comma system.
     EXPECT_EQ(runCli(data() << u"recalc"_s << u"Shop"_s, u"de_DE.UTF-8"_s).status, 0);
-    EXPECT_TRUE(stored(u"Trans"_s).contains("@#@12,50@#@3477168000@#@"));
+    EXPECT_TRUE(stored("Trans").contains("@#@12,50@#@3477168000@#@"));
 }
 
 TEST_F(CommandLineTest, AccountVerbsMakeTheAccountDialogsCalls)
@@ -196,33 +189,33 @@ TEST_F(CommandLineTest, AccountVerbsMakeTheAccountDialogsCalls)
     EXPECT_TRUE(readBytes(fresh.books() + u"/  GardenAccountData"_s).startsWith("999@#@Balance@#@@#@250@#@"));
 
     done(u"add-account Shop Tips --revenue --notes jar"_s);
-    EXPECT_TRUE(stored(u"Account"_s).endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar@#@\n"));
+    EXPECT_TRUE(stored("Account").endsWith("999@#@Tips@#@Revenue@#@0.00@#@0@#@0@#@jar@#@\n"));
     done(u"edit-account shop SALES --rename Takings --opening 7"_s);
-    EXPECT_TRUE(stored(u"Account"_s).contains("\n@#@Takings@#@Revenue@#@7@#@"));
+    EXPECT_TRUE(stored("Account").contains("\n@#@Takings@#@Revenue@#@7@#@"));
     done(u"delete-account Shop rent"_s);
-    EXPECT_FALSE(stored(u"Account"_s).contains("Rent"));
+    EXPECT_FALSE(stored("Account").contains("Rent"));
 }
 
 TEST_F(CommandLineTest, FileProblemsAreToldOnStderrALineEachWithStatusOne)
 {
     // The system itself refusing: a limit on the size of the files a process
     // writes, below the size of the transactions (no root needed for that).
-    writeBytes(book(u"Trans"_s), stored(u"Trans"_s).repeated(50));
+    writeBytes(home.shop("Trans"), stored("Trans").repeated(50));
     CliRun run = runCli(data() << u"recalc"_s << u"Shop"_s, u"C.UTF-8"_s, u"trap '' XFSZ; ulimit -f 2; exec \"$0\" \"$@\""_s);
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err, u"quillmark-cli: Quillmark couldn't save the ledger \"Shop\": File too large. It stays as it was "
                        "before this change.\n");
 
     // Two problems of one operation.
-    QFile::remove(book(u"Account"_s));
-    QFile::remove(book(u"Trans"_s));
+    QFile::remove(home.shop("Account"));
+    QFile::remove(home.shop("Trans"));
     QDir(home.books()).mkdir(u"  ShopAccountData"_s);
     QDir(home.books()).mkdir(u"  ShopTransData"_s);
     run = runCli(data() << u"balances"_s << u"Shop"_s);
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err, u"quillmark-cli: Quillmark couldn't open the ledger \"Shop\": \"%1\" is a folder, not a plain file.\n"
                        "quillmark-cli: Quillmark couldn't open the ledger \"Shop\": \"%2\" is a folder, not a plain file.\n"_s
-                           .arg(book(u"Account"_s), book(u"Trans"_s)));
+                           .arg(home.shop("Account"), home.shop("Trans")));
 }
 
 TEST_F(CommandLineTest, TransactionVerbsMakeTheDialogsCalls)
@@ -230,19 +223,19 @@ TEST_F(CommandLineTest, TransactionVerbsMakeTheDialogsCalls)
     // Every option reaches its field, whatever order they come in.
     done(u"add Shop --description Lease --repeat ANNUALLY --amount 100 --account rent --adjust 5 --date 2014-03-20 "
          "--invoice I9 --memo M"_s);
-    EXPECT_TRUE(stored(u"Trans"_s).endsWith("\n@#@Rent@#@2014-03-20@#@Lease@#@I9@#@-100@#@5@#@-105.00@#@3478118400@#@M@#@@#@Annually@#@\n"));
+    EXPECT_TRUE(stored("Trans").endsWith("\n@#@Rent@#@2014-03-20@#@Lease@#@I9@#@-100@#@5@#@-105.00@#@3478118400@#@M@#@@#@Annually@#@\n"));
 
     done(u"edit Shop 1 --amount 20"_s);
-    EXPECT_TRUE(stored(u"Trans"_s).startsWith("@#@Sales@#@2014-03-09@#@Sale@#@@#@20@#@@#@20.00@#@"));
+    EXPECT_TRUE(stored("Trans").startsWith("@#@Sales@#@2014-03-09@#@Sale@#@@#@20@#@@#@20.00@#@"));
 
     done(u"gst Shop 2 --adjust 3"_s);
-    EXPECT_TRUE(stored(u"Trans"_s).contains("\n@#@Rent@#@2014-03-10@#@March@#@@#@-40.00@#@3@#@-43.00@#@"));
-    EXPECT_TRUE(stored(u"Trans"_s).contains("\n1000@#@GST@#@2014-03-10@#@March@#@"));
+    EXPECT_TRUE(stored("Trans").contains("\n@#@Rent@#@2014-03-10@#@March@#@@#@-40.00@#@3@#@-43.00@#@"));
+    EXPECT_TRUE(stored("Trans").contains("\n1000@#@GST@#@2014-03-10@#@March@#@"));
 
     // A new transaction starts on the day of --today.
     done(u"add Shop --amount 9 --adjust 1 --gst"_s);
-    EXPECT_TRUE(stored(u"Trans"_s).contains("\n@#@Select account@#@2014-03-31@#@@#@@#@-9@#@1@#@-10.00@#@"));
-    EXPECT_TRUE(stored(u"Trans"_s).contains("\n1000@#@GST@#@2014-03-31@#@"));
+    EXPECT_TRUE(stored("Trans").contains("\n@#@Select account@#@2014-03-31@#@@#@@#@-9@#@1@#@-10.00@#@"));
+    EXPECT_TRUE(stored("Trans").contains("\n1000@#@GST@#@2014-03-31@#@"));
 }
 
 TEST_F(CommandLineTest, FindReconcileDeleteAndTransferMakeTheirCalls)
@@ -250,21 +243,21 @@ TEST_F(CommandLineTest, FindReconcileDeleteAndTransferMakeTheirCalls)
     EXPECT_EQ(done(u"find Shop MONTHLY"_s), u"2\tRent\t2014-03-10\tMarch\t\t-40\t\t-40,00\t\t\ttrue\tMonthly\n");
 
     // Row 1's box gets a click; row 2's, checked already, none. Only transBox is stored.
-    const QByteArray accounts = stored(u"Account"_s);
+    const QByteArray accounts = stored("Account");
     done(u"reconcile Shop 1 2"_s);
-    EXPECT_EQ(stored(u"Trans"_s).count("@#@true@#@"), 2);
-    EXPECT_EQ(stored(u"Account"_s), accounts);
+    EXPECT_EQ(stored("Trans").count("@#@true@#@"), 2);
+    EXPECT_EQ(stored("Account"), accounts);
     done(u"reconcile Shop 2 --off"_s);
-    EXPECT_TRUE(stored(u"Trans"_s).contains("@#@false@#@Monthly@#@"));
+    EXPECT_TRUE(stored("Trans").contains("@#@false@#@Monthly@#@"));
     // The second form of balances: reconcile mode, in which row 1 alone counts.
     EXPECT_EQ(done(u"balances Shop --reconciled"_s), u"Balance\tBase Account\t112.50\nSales\tRevenue\t18.00\nRent\tExpense\t0.00\n");
 
     done(u"delete Shop 2 1"_s);
-    EXPECT_EQ(stored(u"Trans"_s), QByteArray());
-    EXPECT_TRUE(stored(u"Account"_s).contains("@#@Sales@#@Revenue@#@5,5@#@0@#@5.5@#@")) << "recalculated";
+    EXPECT_EQ(stored("Trans"), QByteArray());
+    EXPECT_TRUE(stored("Account").contains("@#@Sales@#@Revenue@#@5,5@#@0@#@5.5@#@")) << "recalculated";
     // The accounts as the ledger names them.
     done(u"transfer Shop --from sales --to rent --amount 7 --date 2014-03-15"_s);
-    EXPECT_EQ(stored(u"Trans"_s), "@#@Sales@#@2014-03-15@#@Transfer to Rent@#@@#@-7.00@#@@#@-7.00@#@3477686400@#@@#@@#@Never@#@\n"
+    EXPECT_EQ(stored("Trans"), "@#@Sales@#@2014-03-15@#@Transfer to Rent@#@@#@-7.00@#@@#@-7.00@#@3477686400@#@@#@@#@Never@#@\n"
                                   "@#@Rent@#@2014-03-15@#@Transfer from Sales@#@@#@7.00@#@@#@7.00@#@3477686400@#@@#@@#@Never@#@\n");
 }
 
@@ -290,8 +283,8 @@ TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheFilterAskedOrTheirPdf)
                                       "   \tRent\t\t\t\t\t\t\n"
                                       "2014-03-10\t\tMarch\t\t-40,00\t\t\t\n"
                                       " \t\t\t\t\t\t\tExpense\n");
-    EXPECT_EQ(done(u"report Shop --month 2"_s), u"No transactions found\n");
-    EXPECT_EQ(done(u"report Shop --year 2013"_s), u"No transactions found\n");
+    for (const QString& filter : {u"--month 2"_s, u"--year 2013"_s})
+        EXPECT_EQ(done(u"report Shop "_s + filter), u"No transactions found\n");
     // Show Year on the year of --today.
     const CliRun run = runCli({u"--data"_s, home.path(), u"--today"_s, u"2015-01-01"_s, u"report"_s, u"Shop"_s, u"--show-year"_s});
     EXPECT_EQ(run.out, u"No transactions found\n");
@@ -309,11 +302,9 @@ TEST_F(CommandLineTest, ReportPrintsTheRowsOfTheFilterAskedOrTheirPdf)
 TEST_F(CommandLineTest, AccountListsTheTransactionsWindowAndPrintPrintsTheSummary)
 {
     EXPECT_EQ(done(u"account Shop RENT"_s), u"\tRent\t2014-03-10\tMarch\t\t-40.00\t0.00\t-40.00 \t1\t\nBalance:\t\n");
-    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08 --to 20140309"_s),
-              u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n")
-        << "the range's total";
-    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08"_s), u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n")
-        << "To stays today";
+    const QString sale = u"\tsales\t2014-03-09\tSale\t\t12.50\t0.00\t12.50 \t0\t\nBalance:\t12.5\n"_s;
+    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08 --to 20140309"_s), sale) << "the range's total";
+    EXPECT_EQ(done(u"account Shop sales --from 2014-03-08"_s), sale) << "To stays today";
 
     const QString pdf = home.path() + u"/print.pdf"_s;
     done(u"print shop --what both --pdf "_s + pdf);
@@ -338,7 +329,7 @@ TEST_F(CommandLineTest, ExportWritesTheCsvAndImportAppendsAllOrNothing)
                   u"there is no account named \"Travel\" in the ledger \"  Shop\""_s);
 
     EXPECT_EQ(done(import + u" --skip-end 1"_s), u"2 transactions imported\n");
-    EXPECT_TRUE(stored(u"Trans"_s).contains("\n@#@Rent@#@2014-03-12@#@Tea@#@@#@@#@@#@-5.00@#@"));
+    EXPECT_TRUE(stored("Trans").contains("\n@#@Rent@#@2014-03-12@#@Tea@#@@#@@#@@#@-5.00@#@"));
 
     // Again: both are in the ledger now.
     expectRefused(import + u" --skip-end 1"_s,

@@ -1,17 +1,12 @@
-#include "ledger/SummaryBooks.h"
 #include "engine/BalanceCalculation.h"
 #include "engine/RowLayouts.h"
+#include "ledger/SummaryBooks.h"
 #include "reference/AccountByAccountScan.h"
 #include "reference/GeneratedLedger.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/DefaultLocale.h"
 #include "support/ScriptedPlatform.h"
-
-#include <cstring>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,26 +29,12 @@ constexpr const char* kTransactions =
     "@#@OFFICE@#@someday@#@Pens@#@@#@@#@@#@n/a@#@123@#@@#@@#@@#@\n"
     "@#@Savings@#@2014-03-13@#@Interest@#@@#@@#@@#@0.333@#@\n";
 
-QStringList column(const Listbox& table, int c)
-{
-    QStringList cells;
-    for (int row = 0; row < table.ListCount(); ++row)
-        cells << table.Cell(row, c);
-    return cells;
-}
-
 class BalanceCalculationTest : public ::testing::Test {
 protected:
-    BalanceCalculationTest()
-    {
-        home.makeFolders();
-        writeBytes(home.quillmark() + u"/BookList"_s, "  Shop\n");
-        writeBytes(accountsFile, kAccounts);
-        writeBytes(home.books() + u"/  ShopTransData"_s, kTransactions);
-    }
+    BalanceCalculationTest() { home.writeShop("  Shop\n", kAccounts, kTransactions); }
 
     TempDataHome home;
-    const QString accountsFile = home.books() + u"/  ShopAccountData"_s;
+    const QString accountsFile = home.shop("Account");
     // Before the monthly row falls due: opening the ledger posts nothing.
     FixedClock clock{QDateTime(QDate(2014, 3, 31), QTime(12, 0))};
 };
@@ -71,18 +52,18 @@ TEST_F(BalanceCalculationTest, GivesEveryAccountItsFiguresOnAPeriodSystem)
     // The Base Account sums the accounts' transactions, not their openings; "Closed"
     // and GST count in no account.
     const QStringList balances{u"1115.833"_s, u"150.50"_s, u"-22.50"_s, u"0.00"_s, u"10.458"_s};
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Type),
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Type),
               (QStringList{u"Base Account"_s, u"Revenue"_s, u"Expense"_s, u"Expense"_s, u"Revenue"_s}));
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Opening),
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Opening),
               (QStringList{u"1000.00"_s, u"0.00"_s, u"12.50"_s, u"0.00"_s, u"10.125"_s}));
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Transactions),
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Transactions),
               (QStringList{u"115.833"_s, u"150.50"_s, u"-35.00"_s, u"0.00"_s, u"0.333"_s}));
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
-    EXPECT_EQ(column(books.transBox, TransCol::Transaction),
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Balance), balances);
+    EXPECT_EQ(columnOf(books.transBox, TransCol::Transaction),
               (QStringList{u"100.00"_s, u"50.50"_s, u"-35.00"_s, u".00"_s, u"-7"_s, u"n/a.00"_s, u"0.333"_s}));
     EXPECT_EQ(books.taxText, u"5");
     EXPECT_EQ(books.balText, u"108.833");
-    EXPECT_EQ(column(books.transBox, TransCol::Seconds),
+    EXPECT_EQ(columnOf(books.transBox, TransCol::Seconds),
               (QStringList{u"3477168000"_s, u"3477254400"_s, u"3477340800"_s, u"3477340800"_s, u"3477427200"_s,
                            u"123"_s, u"3477513600"_s}))
         << "an unreadable date leaves its seconds alone";
@@ -94,13 +75,13 @@ TEST_F(BalanceCalculationTest, GivesEveryAccountItsFiguresOnAPeriodSystem)
                          "@#@Office@#@Expense@#@12,5@#@-35@#@-22.5@#@@#@\n"
                          "@#@Travel@#@Expense@#@.00@#@0@#@0@#@@#@\n"
                          "@#@Savings@#@Revenue@#@10.125@#@0.333@#@10.458@#@@#@\n"));
-    const QByteArray transactions = readBytes(home.books() + u"/  ShopTransData"_s);
+    const QByteArray transactions = readBytes(home.shop("Trans"));
     EXPECT_TRUE(transactions.contains("@#@Sales@#@2014-03-10@#@Invoice 2@#@@#@50,5@#@@#@ 50,5 @#@3477254400@#@"));
     EXPECT_TRUE(transactions.contains("\n@#@GST@#@2014-03-11@#@Paper@#@@#@@#@@#@@#@3477340800@#@"));
 
     // A second run gives the same figures; now the padded openings are stored.
     books.calcAll();
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Balance), balances);
     EXPECT_TRUE(readBytes(accountsFile).contains("\n@#@Office@#@Expense@#@12.50@#@-35@#@-22.5@#@@#@\n"
                                                  "@#@Travel@#@Expense@#@0.00@#@0@#@0@#@@#@\n"));
 }
@@ -114,16 +95,16 @@ TEST_F(BalanceCalculationTest, ShowsCommasOnACommaSystemAndReadsThemBack)
     books.calcAll();
 
     const QStringList balances{u"1115,833"_s, u"150,50"_s, u"-22,50"_s, u"0,00"_s, u"10,458"_s};
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Opening),
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Balance), balances);
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Opening),
               (QStringList{u"1000,00"_s, u"0,00"_s, u"12,50"_s, u"0,00"_s, u"10,125"_s}));
-    EXPECT_EQ(column(books.transBox, TransCol::Transaction),
+    EXPECT_EQ(columnOf(books.transBox, TransCol::Transaction),
               (QStringList{u"100,00"_s, u"50,50"_s, u"-35,00"_s, u",00"_s, u"-7"_s, u"n/a,00"_s, u"0,333"_s}));
 
     // Every later read goes through the comma: the figures hold on each run, and
     // a reopened ledger gives them again.
     books.calcAll();
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Balance), balances);
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Balance), balances);
     EXPECT_TRUE(readBytes(accountsFile).contains("@#@Sales@#@Revenue@#@0,00@#@150.5@#@150.5@#@"));
     books.LedgerList.SetListIndex(-1);
     books.LedgerList.SetListIndex(0);
@@ -137,7 +118,7 @@ TEST_F(BalanceCalculationTest, CountsOnlyReconciledRowsWhileReconciling)
     books.reconcilecheckbox_Action(true);
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Transactions), u"") << "switching on computes nothing yet";
     books.calcAll();
-    EXPECT_EQ(column(books.accountsBox, AccountCol::Transactions),
+    EXPECT_EQ(columnOf(books.accountsBox, AccountCol::Transactions),
               (QStringList{u"65.00"_s, u"100.00"_s, u"-35.00"_s, u"0.00"_s, u"0.00"_s}));
     EXPECT_TRUE(readBytes(accountsFile).contains("@#@Sales@#@Revenue@#@@#@100@#@100@#@"));
     EXPECT_EQ(books.transBox.Cell(1, TransCol::Transaction), u"50.50") << "an unreconciled row keeps its amount";
@@ -153,7 +134,7 @@ TEST_F(BalanceCalculationTest, OpeningALedgerPostsTheRepeatsDueWithoutStoringOrR
     books.LedgerList.SetListIndex(0);
     EXPECT_EQ(books.transBox.Cell(7, TransCol::Date), u"2014-04-10");
     EXPECT_EQ(books.accountsBox.Cell(1, AccountCol::Balance), u"") << "not recalculated";
-    EXPECT_EQ(readBytes(home.books() + u"/  ShopTransData"_s), kTransactions) << "not stored";
+    EXPECT_EQ(readBytes(home.shop("Trans")), kTransactions) << "not stored";
 }
 
 TEST(BalanceCalculation, OnePassEqualsTheAccountByAccountScan)
@@ -173,7 +154,7 @@ TEST(BalanceCalculation, OnePassEqualsTheAccountByAccountScan)
             EXPECT_EQ(fast.tax.text(), scan.tax.text());
             EXPECT_EQ(fast.transactions.text(), scan.transactions.text());
             for (int c = 0; c < AccountCol::Count; ++c)
-                ASSERT_EQ(column(accounts, c), column(scannedAccounts, c)) << "column " << c;
+                ASSERT_EQ(columnOf(accounts, c), columnOf(scannedAccounts, c)) << "column " << c;
         }
     }
 }
@@ -184,7 +165,7 @@ TEST(BalanceCalculation, MalformedRowsChangeNoOtherAccount)
     Listbox transactions(u"transBox"_s, TransCol::Count);
     generateLedger(accounts, transactions, LedgerShape{20, 500, 5, false});
     calculateBalances(accounts, transactions, false);
-    const QStringList balances = column(accounts, AccountCol::Balance);
+    const QStringList balances = columnOf(accounts, AccountCol::Balance);
 
     for (const QString& text : {u""_s, u"-"_s, u"."_s, u"--5"_s, u"abc"_s, u"@#@"_s, u"\u0000\uFFFF"_s, u"\U0001F4B6"_s,
                                 QString(5000, u'9').prepend(u"x"_s), u"\t\n\r"_s}) {
@@ -196,7 +177,7 @@ TEST(BalanceCalculation, MalformedRowsChangeNoOtherAccount)
         transactions.SetCell(transactions.LastIndex(), TransCol::Transaction, text);
     }
     calculateBalances(accounts, transactions, false);
-    EXPECT_EQ(column(accounts, AccountCol::Balance), balances) << "unreadable amounts count 0, wherever they stand";
+    EXPECT_EQ(columnOf(accounts, AccountCol::Balance), balances) << "unreadable amounts count 0, wherever they stand";
     writeSeconds(transactions);
     padAmounts(accounts, transactions);
     EXPECT_EQ(transactions.Cell(transactions.ListCount() - 2, TransCol::Transaction), u".00") << "blanks trimmed, then padded";
@@ -206,17 +187,11 @@ TEST(BalanceCalculation, MatchesNamesIgnoringCaseAcrossScripts)
 {
     Listbox accounts(u"accountsBox"_s, AccountCol::Count);
     Listbox transactions(u"transBox"_s, TransCol::Count);
-    for (const QString& name : {u"Balance"_s, u"Café Été"_s, u"ΣΟΦΙΑ"_s, u"Straße"_s}) {
-        accounts.AddRow(u"");
-        accounts.SetCell(accounts.LastIndex(), AccountCol::Name, name);
-    }
-    for (const QString& name : {u"café été"_s, u"CAFÉ ÉTÉ"_s, u"σοφια"_s, u"STRASSE"_s, u"straße"_s, u"balance"_s}) {
-        transactions.AddRow(u"");
-        transactions.SetCell(transactions.LastIndex(), TransCol::Account, name);
-        transactions.SetCell(transactions.LastIndex(), TransCol::Transaction, u"1"_s);
-    }
+    addRows(accounts, {u"|Balance"_s, u"|Café Été"_s, u"|ΣΟΦΙΑ"_s, u"|Straße"_s});
+    addRows(transactions, {u"|café été||||||1"_s, u"|CAFÉ ÉTÉ||||||1"_s, u"|σοφια||||||1"_s, u"|STRASSE||||||1"_s,
+                           u"|straße||||||1"_s, u"|balance||||||1"_s});
     calculateBalances(accounts, transactions, false);
-    EXPECT_EQ(column(accounts, AccountCol::Transactions), (QStringList{u"4"_s, u"2"_s, u"1"_s, u"1"_s}));
+    EXPECT_EQ(columnOf(accounts, AccountCol::Transactions), (QStringList{u"4"_s, u"2"_s, u"1"_s, u"1"_s}));
 }
 
 TEST(BalanceCalculation, PadsAmountsToTwoDecimals)

@@ -5,10 +5,6 @@
 #include "engine/TransactionSearch.h"
 #include "support/Cells.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 // OK wants an account and an amount; the GST button an amount and an
 // adjustment of a withdrawal, and no account. OK writes the amount as typed
 // (its comma a point) and the total signed by the buttons alone, the
@@ -37,11 +33,7 @@ TEST(TransactionEntry, TheButtonsRefuseWhatTheyLackAndOkSignsTheTotal)
     table.AddRow(u""_s);
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << c.account << " " << c.amount.toStdString() << " " << c.deposit);
-        TransactionForm form;
-        form.account = c.account;
-        form.amount = c.amount;
-        form.adjustment = c.adjustment;
-        form.deposit = c.deposit;
+        const TransactionForm form{.account = c.account, .amount = c.amount, .deposit = c.deposit, .adjustment = c.adjustment};
         EXPECT_EQ(okEnabled(form), c.ok);
         EXPECT_EQ(gstEnabled(form), c.gst);
         EXPECT_EQ(okRefusal(form).isEmpty(), c.ok);
@@ -54,23 +46,15 @@ TEST(TransactionEntry, TheButtonsRefuseWhatTheyLackAndOkSignsTheTotal)
 
 namespace {
 
+// Account, date, description, seconds, memo and repeat word; the cell past the
+// last column is hidden.
 struct Ledger : Listbox {
     Ledger()
         : Listbox(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple)
     {
-        row({u"Sales"_s, u"2026-11-02"_s, u"Till"_s, u"3876422400"_s, u"cash in the jar \u212Aelvin"_s, u"Never"_s});
-        row({u"Rent"_s, u"2026-11-03"_s, u"November (flat)"_s, u"3876508800"_s, u""_s, u"Monthly"_s});
-        row({u"Café"_s, u"2026-11-04"_s, u"Été.*"_s, u"3876595200"_s, u"a@b"_s, u"never"_s});
-    }
-    void row(const QStringList& cells)
-    {
-        AddRow(u""_s);
-        const int r = LastIndex();
-        for (int i = 0; i < cells.size(); ++i)
-            SetCell(r, std::array{TransCol::Account, TransCol::Date, TransCol::Description, TransCol::Seconds,
-                                  TransCol::Memo, TransCol::Repeat}[size_t(i)],
-                    cells[i]);
-        SetCell(r, TransCol::Count, u"hidden cell, past the last column"_s);
+        addRows(*this, {u"|Sales|2026-11-02|Till|||||3876422400|cash in the jar \u212Aelvin||Never|hidden"_s,
+                        u"|Rent|2026-11-03|November (flat)|||||3876508800|||Monthly|hidden"_s,
+                        u"|Café|2026-11-04|Été.*|||||3876595200|a@b||never|hidden"_s});
     }
 };
 
@@ -108,12 +92,8 @@ struct TransactionTable : Listbox {
         : Listbox(u"transBox"_s, TransCol::Count, Listbox::SelectionType::Multiple)
     {
         setUpTransBox(*this);
-        for (const auto& [date, mark] : datesAndMarks) {
-            AddRow(u""_s);
-            SetCell(LastIndex(), TransCol::Account, u"Rent");
-            SetCell(LastIndex(), TransCol::Date, date);
-            SetCell(LastIndex(), TransCol::Repeat, mark);
-        }
+        for (const auto& [date, mark] : datesAndMarks)
+            addRows(*this, {u"|Rent|%1|||||||||%2"_s.arg(date, mark)});
     }
 };
 

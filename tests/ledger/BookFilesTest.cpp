@@ -5,6 +5,7 @@
 #include "engine/RowLayouts.h"
 #include "ledger/AccountOperations.h"
 #include "ledger/SummaryBooks.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/FailingSaves.h"
 #include "support/ScriptedPlatform.h"
@@ -14,11 +15,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 #include <sys/stat.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,10 +23,8 @@ class BookFilesTest : public ::testing::Test {
 protected:
     BookFilesTest()
     {
-        home.makeFolders();
-        writeBytes(bookList, "  Shop\n");
-        writeBytes(book(u"  ShopAccountData"_s), "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n");
-        writeBytes(book(u"  ShopTransData"_s), "@#@Sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@false@#@Never@#@\n");
+        home.writeShop("  Shop\n", "@#@Cash@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@0@#@0@#@@#@\n",
+                       "@#@Sales@#@2026-01-03@#@till@#@@#@10@#@0@#@10@#@@#@@#@false@#@Never@#@\n");
     }
 
     QString book(const QString& name) const { return home.books() + u'/' + name; }
@@ -128,9 +123,7 @@ TEST_F(BookFilesTest, AFileThatCouldntBeReadIsNotWrittenOver)
     // The table shows nothing of the file; storing it would empty the ledger.
     platform.messages.clear();
     books.calcAll();
-    books.LedgerList.userBeganEdit(0, 0);
-    books.LedgerList.userEditedCell(0, 0, u"Store"_s);
-    books.LedgerList.userEndedEdit(0, 0);
+    typeInto(books.LedgerList, 0, 0, u"Store"_s);
     EXPECT_EQ(readBytes(book(u"  ShopTransData"_s)), transactions);
     EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Shop") << "no rename without the files' content";
     EXPECT_EQ(platform.messages,

@@ -1,13 +1,10 @@
 #include "engine/RowLayouts.h"
 #include "ledger/SummaryBooks.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/ScriptedPlatform.h"
 
 #include <QMap>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,10 +16,9 @@ protected:
     // Written before the books read the list.
     bool writeLedgers() const
     {
-        home.makeFolders();
-        writeBytes(bookList(), "Shop\r\n\r\n  Home\n\n");
-        writeBook(u"  ShopAccountData"_s, "999@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@@#@\n");
-        writeBook(u"  ShopTransData"_s, "7@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n");
+        home.writeShop("Shop\r\n\r\n  Home\n\n",
+                       "999@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n@#@Sales@#@Revenue@#@0.00@#@5@#@5@#@@#@\n",
+                       "7@#@Sales@#@2014-03-09@#@Sale@#@@#@5@#@@#@5.00@#@@#@@#@true@#@Never@#@\n");
         writeBook(u"  HomeAccountData"_s, "@#@Balance@#@@#@50.00@#@0@#@50@#@@#@\n");
         writeBook(u"  HomeTransData"_s, "");
         writeBook(u"  OrphanTransData"_s, "@#@someone else's@#@\n");
@@ -34,23 +30,7 @@ protected:
     void writeBook(const QString& name, const QByteArray& bytes) const { writeBytes(book(name), bytes); }
 
     Folder snapshot() const { return entriesUnder(home.path()); }
-
-    QStringList ledgerNames() const
-    {
-        QStringList names;
-        for (int row = 0; row < books.LedgerList.ListCount(); ++row)
-            names << books.LedgerList.Cell(row, 0);
-        return names;
-    }
-
-    // The user edits the selected ledger's cell in place.
-    void renameSelected(const QString& text)
-    {
-        const int row = books.LedgerList.ListIndex();
-        books.LedgerList.userBeganEdit(row, 0);
-        books.LedgerList.userEditedCell(row, 0, text);
-        books.LedgerList.userEndedEdit(row, 0);
-    }
+    QStringList ledgerNames() const { return columnOf(books.LedgerList, 0); }
 
     TempDataHome home;
     ScriptedPlatform platform;
@@ -101,14 +81,14 @@ TEST_F(LedgerFlowsTest, RenameMovesTheFilesOrTouchesNone)
     books.LedgerList.SetListIndex(0);
     const Folder before = snapshot();
     for (const QString& name : {u""_s, u"   "_s, u"  home"_s, u"a/b"_s, u"tab\there"_s, u"Orphan"_s, QString(250, u'x')}) {
-        renameSelected(name);
+        typeInto(books.LedgerList, 0, 0, name);
         EXPECT_EQ(books.LedgerList.Cell(0, 0), u"  Shop") << name.toStdString();
         EXPECT_EQ(books.theLedger, u"  Shop");
         EXPECT_EQ(snapshot(), before) << name.toStdString();
     }
     EXPECT_EQ(platform.messages.size(), 7);
 
-    renameSelected(u"Store"_s); // typed without the blanks
+    typeInto(books.LedgerList, 0, 0, u"Store"_s); // typed without the blanks
     EXPECT_EQ(books.theLedger, u"  Store");
     EXPECT_EQ(readBytes(bookList()), QByteArray("  Store\n  Home\n"));
     EXPECT_FALSE(fileExists(book(u"  ShopAccountData"_s)));
@@ -117,8 +97,8 @@ TEST_F(LedgerFlowsTest, RenameMovesTheFilesOrTouchesNone)
     EXPECT_TRUE(readBytes(book(u"  StoreTransData"_s)).contains("Sale"));
 
     // Unchanged text, or only another case: stored again, nothing deleted.
-    renameSelected(u"  Store"_s);
-    renameSelected(u"  STORE"_s);
+    typeInto(books.LedgerList, 0, 0, u"  Store"_s);
+    typeInto(books.LedgerList, 0, 0, u"  STORE"_s);
     EXPECT_TRUE(fileExists(book(u"  StoreAccountData"_s)));
     EXPECT_TRUE(fileExists(book(u"  STOREAccountData"_s)));
     EXPECT_EQ(readBytes(bookList()), QByteArray("  STORE\n  Home\n"));

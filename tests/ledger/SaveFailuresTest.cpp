@@ -6,6 +6,7 @@
 #include "engine/RowLayouts.h"
 #include "ledger/SummaryBooks.h"
 #include "reference/GeneratedLedger.h"
+#include "support/Cells.h"
 #include "support/DataFolder.h"
 #include "support/FailingSaves.h"
 #include "support/ScriptedPlatform.h"
@@ -14,11 +15,8 @@
 #include <QFile>
 #include <QRect>
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
-using namespace Qt::StringLiterals;
 using Step = FailingSaves::Step;
 
 namespace {
@@ -120,7 +118,7 @@ TEST_F(SaveFailuresTest, EveryFailingStepKeepsEveryKindOfFileAsItWas)
 TEST_F(SaveFailuresTest, AFullWriteGoesThroughAndAFailingFolderSyncIsToldWithoutClaimingTheOldFile)
 {
     const auto books = openShop();
-    const QString transactions = home.books() + u"/  ShopTransData"_s;
+    const QString transactions = home.shop("Trans");
     books->transBox.userToggledCheck(0, TransCol::Account);
     const QByteArray saved = readBytes(transactions);
     ASSERT_GT(saved.size(), kPiece + 100) << "the ledger is written in more than one piece";
@@ -148,9 +146,7 @@ TEST_F(SaveFailuresTest, OneOperationTellsOnceThoughBothFilesFailAndARenameKeeps
     {
         const FailingSaves failing(Step::Write, 0);
         books->calcAll();
-        books->LedgerList.userBeganEdit(0, 0);
-        books->LedgerList.userEditedCell(0, 0, u"Store"_s);
-        books->LedgerList.userEndedEdit(0, 0);
+        typeInto(books->LedgerList, 0, 0, u"Store"_s);
     }
     EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
     EXPECT_EQ(books->theLedger, u"  Shop");
@@ -165,11 +161,9 @@ TEST_F(SaveFailuresTest, ARenameWhoseListCantBeSavedTakesBackTheFilesOfTheNewNam
     const auto books = openShop();
     const QString list = home.quillmark() + u"/BookList"_s;
     ASSERT_TRUE(QFile::remove(list) && QDir().mkdir(list)); // a folder where the list should be written
-    books->LedgerList.userBeganEdit(0, 0);
-    books->LedgerList.userEditedCell(0, 0, u"Store"_s);
-    books->LedgerList.userEndedEdit(0, 0);
+    typeInto(books->LedgerList, 0, 0, u"Store"_s);
     EXPECT_EQ(books->LedgerList.Cell(0, 0), u"  Shop");
-    EXPECT_TRUE(fileExists(home.books() + u"/  ShopTransData"_s));
+    EXPECT_TRUE(fileExists(home.shop("Trans")));
     EXPECT_FALSE(fileExists(home.books() + u"/  StoreTransData"_s));
     EXPECT_FALSE(fileExists(home.books() + u"/  StoreAccountData"_s));
 }

@@ -20,8 +20,6 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class CommandsTest : public SummaryWindowTest {

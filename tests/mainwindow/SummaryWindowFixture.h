@@ -32,11 +32,8 @@ protected:
 
     void writeLedgers() const
     {
-        home.makeFolders();
-        writeBytes(home.quillmark() + QStringLiteral("/BookList"), "  Shop\n  Home\n");
-        writeBytes(home.books() + QStringLiteral("/  ShopAccountData"), "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n");
-        writeBytes(home.books() + QStringLiteral("/  ShopTransData"),
-                   "@#@Sales@#@2014-03-09@#@b@#@\n@#@Sales@#@2013-01-02@#@a@#@\n@#@Sales@#@2014-01-05@#@c@#@\n");
+        home.writeShop("  Shop\n  Home\n", "@#@Balance@#@@#@100.00@#@0@#@100@#@@#@\n",
+                       "@#@Sales@#@2014-03-09@#@b@#@\n@#@Sales@#@2013-01-02@#@a@#@\n@#@Sales@#@2014-01-05@#@c@#@\n");
     }
 
     SummaryWindow* shownWindow() const
@@ -50,19 +47,14 @@ protected:
     // "  Shop" with these files, open in the main window.
     SummaryWindow* openShop(const QByteArray& accounts, const QByteArray& transactions) const
     {
-        writeLedgers();
-        writeBytes(home.books() + QStringLiteral("/  ShopAccountData"), accounts);
-        writeBytes(home.books() + QStringLiteral("/  ShopTransData"), transactions);
+        home.writeShop("  Shop\n  Home\n", accounts, transactions);
         SummaryWindow* window = shownWindow();
         window->LedgerList().SetListIndex(0);
         return window;
     }
 
     // What "  Shop" holds on disk; kind: "Account" or "Trans".
-    QByteArray stored(const char* kind) const
-    {
-        return readBytes(home.books() + QStringLiteral("/  Shop") + QLatin1String(kind) + QStringLiteral("Data"));
-    }
+    QByteArray stored(const char* kind) const { return readBytes(home.shop(kind)); }
 
     // A click on an item of the toolbar.
     static void press(SummaryWindow* window, const QString& item)

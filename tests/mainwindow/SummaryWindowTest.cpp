@@ -1,8 +1,10 @@
 #include "app/App.h"
 #include "app/SplashWindow.h"
 #include "books/ui/newBookWindow.h"
+#include "engine/RowLayouts.h"
 #include "engine/ui/AccountWindow.h"
 #include "mainwindow/MenuBar1.h"
+#include "mainwindow/SummaryColours.h"
 #include "mainwindow/SummaryWindowFixture.h"
 #include "support/FailingSaves.h"
 #include "widgets/WindowSplitter.h"
@@ -14,8 +16,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-
-using namespace Qt::StringLiterals;
 
 TEST_F(SummaryWindowTest, StartMakesTheFoldersAndShowsTheMainWindowAfterTheStartScreen)
 {
@@ -144,7 +144,7 @@ TEST_F(SummaryWindowTest, ClosingStoresTheOpenLedgerAndTheWindowsPlace)
     window->setGeometry(30, 40, 900, 650);
     window->close();
     EXPECT_EQ(platform.quits, 1);
-    EXPECT_TRUE(readBytes(home.books() + u"/  ShopAccountData"_s).contains("@#@kept on closing@#@\n"));
+    EXPECT_TRUE(stored("Account").contains("@#@kept on closing@#@\n"));
     EXPECT_EQ(readBytes(home.books() + u"/WindowData"_s), QByteArray("40\n30\n900\n650\n"));
     EXPECT_EQ(readBytes(home.path() + u"/Quillmark_WindowData"_s), QByteArray("Quillmark;30;40;900;650\n"));
 }
@@ -155,7 +155,7 @@ TEST_F(SummaryWindowTest, ClosingOnAFullDiskSaysSoOnceBeforeTheEndAndKeepsTheFil
     SummaryWindow* window = shownWindow();
     window->LedgerList().SetListIndex(0);
     window->accountsBox().SetCell(0, 6, u"not stored"_s);
-    const QByteArray accounts = readBytes(home.books() + u"/  ShopAccountData"_s);
+    const QByteArray accounts = stored("Account");
     int quitsWhenTold = -1;
     const BlockingServiceHooks scripted = blockingServices();
     BlockingServiceHooks watching;
@@ -174,6 +174,29 @@ TEST_F(SummaryWindowTest, ClosingOnAFullDiskSaysSoOnceBeforeTheEndAndKeepsTheFil
               QStringList{u"Quillmark couldn't save the places of its windows: No space left on device.\n\n"
                           "Quillmark couldn't save the ledger \"Shop\": No space left on device. It stays as it was "
                           "before this change."_s});
-    EXPECT_EQ(readBytes(home.books() + u"/  ShopAccountData"_s), accounts);
+    EXPECT_EQ(stored("Account"), accounts);
     EXPECT_EQ(QDir(home.books()).entryList(QDir::Files).size(), 2) << "nothing left beside the files";
+}
+
+TEST(SummaryColours, AccountTextShowsTheBaseAccountAndNegativeBalancesOfNonRevenue)
+{
+    Listbox accounts(u"accountsBox"_s, AccountCol::Count);
+    setUpAccountsBox(accounts);
+    // Types and balances.
+    addRows(accounts, {u"||Base Account|||   -50.00"_s, u"||Expense|||   -12.50"_s, u"||REVENUE|||   -99.00"_s,
+                       u"||Expense|||    12.50"_s, u"||asset|||-1,5"_s});
+    const QColor red(255, 0, 0), green(0, 128, 64), white(255, 255, 255), blue(217, 233, 255);
+    const QList<QColor> text{green, red, QColor(), QColor(), red}; // revenue in any case is never red
+    for (int row = 0; row < accounts.ListCount(); ++row) {
+        SCOPED_TRACE(row);
+        EXPECT_EQ(SummaryColours::accountsCell(accounts, row, false).text, text[row]);
+        EXPECT_EQ(SummaryColours::accountsCell(accounts, row, true).text, white) << "selection wins";
+        EXPECT_EQ(SummaryColours::accountsCell(accounts, row, false).background, row % 2 ? white : blue);
+        EXPECT_EQ(SummaryColours::transCell(row).background, row % 2 ? white : blue);
+    }
+    EXPECT_FALSE(SummaryColours::transCell(3).selectionGradient) << "transactions keep the grid's highlight";
+    EXPECT_TRUE(SummaryColours::accountsCell(accounts, 1, true).selectionGradient);
+    EXPECT_EQ(SummaryColours::ledgerCell(false).background, QColor(219, 223, 232));
+    EXPECT_TRUE(SummaryColours::ledgerCell(true).selectionGradient);
+    EXPECT_EQ(SummaryColours::ledgerCell(true).text, white);
 }

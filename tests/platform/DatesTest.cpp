@@ -4,10 +4,6 @@
 
 #include <QTimeZone>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 TEST(Dates, ParseDateReadsTheStoredFormsAndTheLocalesShortForm)
 {
     const FixedClock clock(QDateTime(QDate(2026, 11, 23), QTime(10, 0)));

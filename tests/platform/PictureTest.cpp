@@ -1,10 +1,7 @@
 #include "platform/Picture.h"
+#include "support/Testing.h"
 
 #include <QDir>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 // On a screen of two device pixels per point every picture of the resources comes
 // with twice the pixels and takes the same room; on other screens it is the

@@ -3,11 +3,6 @@
 #include "reports/AccountTransactions.h"
 #include "reports/LedgerReport.h"
 #include "support/Cells.h"
-#include "support/QtPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 // The ledger report's rows, filters, totals and colours, over small tables.
 namespace {
@@ -30,18 +25,7 @@ protected:
         addRows(transactions, {u"|%1|%2|%3|%4|%5||%5||||Never"_s.arg(account, date, text, invoice, total)});
     }
 
-    // Each row of the report, its eight cells joined by "|".
-    QStringList rows() const
-    {
-        QStringList lines;
-        for (int row = 0; row < report.ListCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column <= ReportCol::Type; ++column)
-                cells << report.Cell(row, column);
-            lines << cells.join(u'|');
-        }
-        return lines;
-    }
+    QStringList rows() const { return rowsOf(report, ReportCol::Type); }
 
     Listbox accounts{u"accountsBox"_s, AccountCol::Count};
     Listbox transactions{u"transBox"_s, TransCol::Count};
@@ -142,18 +126,6 @@ protected:
         loadAccount(list, transactions, u"Rent"_s);
     }
 
-    QStringList lines() const
-    {
-        QStringList all;
-        for (int line = 0; line < list.ListCount(); ++line) {
-            QStringList cells;
-            for (int column = 0; column <= AccountListCol::Memo; ++column)
-                cells << list.Cell(line, column);
-            all << cells.join(u'|');
-        }
-        return all;
-    }
-
     Listbox transactions{u"transBox"_s, TransCol::Count};
     Listbox list{u"ListBox1"_s, AccountListCol::Count, Listbox::SelectionType::Multiple};
 };
@@ -163,7 +135,7 @@ protected:
 TEST_F(AccountTransactionsTest, TheAccountsRowsAnyCaseWithTheirLinksAndFiguresOfTwoDecimals)
 {
     // Amounts read by Val: "-45,00" is -45; the total gets a blank after it.
-    EXPECT_EQ(lines(), (QStringList{u"|Rent|2014-03-09|March|A1|-40.00|5.00|-45.00 |0|rent memo"_s,
+    EXPECT_EQ(rowsOf(list, AccountListCol::Memo), (QStringList{u"|Rent|2014-03-09|March|A1|-40.00|5.00|-45.00 |0|rent memo"_s,
                                     u"|rent|2014-04-09|April||0.00|0.00|0.00 |2|"_s,
                                     u"1000|RENT|bad date|||0.00|0.00|0.00 |3|"_s}));
 }

@@ -10,10 +10,6 @@
 #include <QImage>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // A4 with half an inch all round.

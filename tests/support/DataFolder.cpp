@@ -24,12 +24,25 @@ void TempDataHome::makeFolders() const
     EXPECT_TRUE(QDir().mkpath(books()));
 }
 
+bool TempDataHome::writeShop(const QByteArray& bookList, const QByteArray& accounts,
+                             const QByteArray& transactions) const
+{
+    makeFolders();
+    writeBytes(quillmark() + QStringLiteral("/BookList"), bookList);
+    writeBytes(shop("Account"), accounts);
+    writeBytes(shop("Trans"), transactions);
+    return true;
+}
+
+QString TempDataHome::shop(const char* kind) const
+{
+    return books() + QStringLiteral("/  Shop") + QLatin1String(kind) + QStringLiteral("Data");
+}
+
 QByteArray readBytes(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void writeBytes(const QString& path, const QByteArray& bytes)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/QtPrinters.h"
+#include "support/Testing.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -21,6 +21,11 @@ public:
     QString books() const { return quillmark() + QStringLiteral("/Books"); }
     // Creates "Quillmark/Books" as the start of the application does.
     void makeFolders() const;
+    // The folders, the list of ledgers and the two files of "  Shop", as a user
+    // left them; true, to be written before the books that read them are made.
+    bool writeShop(const QByteArray& bookList, const QByteArray& accounts, const QByteArray& transactions) const;
+    // A file of "  Shop"; kind: "Account" or "Trans".
+    QString shop(const char* kind) const;
 
 private:
     QTemporaryDir dir;

@@ -5,6 +5,17 @@
 
 #include <fcntl.h>
 
+namespace {
+
+// A system call failing with this error.
+int failing(int error)
+{
+    errno = error;
+    return -1;
+}
+
+} // namespace
+
 FailingSaves::FailingSaves(Step step, qint64 bytes)
     : step_(step)
     , limit_(bytes)
@@ -12,19 +23,15 @@ FailingSaves::FailingSaves(Step step, qint64 bytes)
     const FileCalls system = systemFileCalls();
     FileCalls calls;
     calls.open = [this, system](const char* path, int flags, mode_t mode) {
-        if (step_ == Step::Create && (flags & O_CREAT) != 0) {
-            errno = EACCES;
-            return -1;
-        }
+        if (step_ == Step::Create && (flags & O_CREAT) != 0)
+            return failing(EACCES);
         return system.open(path, flags, mode);
     };
     calls.write = [this, system](int fd, const void* data, size_t size) -> ssize_t {
         if (step_ == Step::Write) {
             const qint64 room = limit_ - written_;
-            if (room <= 0) {
-                errno = ENOSPC;
-                return -1;
-            }
+            if (room <= 0)
+                return ssize_t(failing(ENOSPC));
             size = std::min<size_t>(size, size_t(room)); // a short write first, as a filling disk gives
         }
         const ssize_t done = system.write(fd, data, size);
@@ -35,26 +42,16 @@ FailingSaves::FailingSaves(Step step, qint64 bytes)
     calls.fsync = [this, system](int fd) {
         const int mode = fcntl(fd, F_GETFL);
         const bool folder = mode >= 0 && (mode & O_ACCMODE) == O_RDONLY;
-        if ((step_ == Step::Sync && !folder) || (step_ == Step::FolderSync && folder)) {
-            errno = EIO;
-            return -1;
-        }
+        if ((step_ == Step::Sync && !folder) || (step_ == Step::FolderSync && folder))
+            return failing(EIO);
         return system.fsync(fd);
     };
     calls.close = [this, system](int fd) {
         const int result = system.close(fd);
-        if (step_ == Step::Close) {
-            errno = EIO;
-            return -1;
-        }
-        return result;
+        return step_ == Step::Close ? failing(EIO) : result;
     };
     calls.rename = [this, system](const char* from, const char* to) {
-        if (step_ == Step::Rename) {
-            errno = EXDEV;
-            return -1;
-        }
-        return system.rename(from, to);
+        return step_ == Step::Rename ? failing(EXDEV) : system.rename(from, to);
     };
     previous_ = installFileCalls(calls);
 }
@@ -67,7 +64,6 @@ FailingSaves::~FailingSaves()
 std::string stepName(FailingSaves::Step step)
 {
     switch (step) {
-    case FailingSaves::Step::None: return "none";
     case FailingSaves::Step::Create: return "create";
     case FailingSaves::Step::Write: return "write";
     case FailingSaves::Step::Sync: return "sync";
@@ -91,11 +87,7 @@ FailingReads::FailingReads(const QString& fileName)
         return fd;
     };
     calls.read = [this, system](int fd, void* data, size_t size) -> ssize_t {
-        if (failing_.contains(fd)) {
-            errno = EIO;
-            return -1;
-        }
-        return system.read(fd, data, size);
+        return failing_.contains(fd) ? ssize_t(failing(EIO)) : system.read(fd, data, size);
     };
     calls.close = [this, system](int fd) {
         failing_.remove(fd);

@@ -13,7 +13,6 @@
 class FailingSaves {
 public:
     enum class Step {
-        None,
         Create,      // the temporary file can't be made
         Write,       // the disk fills up after `bytes` bytes of the file
         Sync,        // the file's sync reports an I/O error

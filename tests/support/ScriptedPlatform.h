@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/QtPrinters.h"
+#include "support/Testing.h"
 
 #include "platform/BlockingServices.h"
 #include "platform/Clock.h"

@@ -6,10 +6,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 const QString kOffer = u"There is a newer version of Quillmark available. Would you like to download it now?"_s;

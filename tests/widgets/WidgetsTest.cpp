@@ -13,10 +13,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // A 36 by 36 button opened with a picture, as the windows make theirs.

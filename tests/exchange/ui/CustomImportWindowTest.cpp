@@ -10,8 +10,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class CustomImportWindowTest : public SummaryWindowTest {

@@ -4,7 +4,13 @@
 #include <QString>
 #include <QStringView>
 
+#include <gtest/gtest.h>
+
 #include <ostream>
+
+// What every test shares: GoogleTest, Qt's string literals, and failures that
+// print Qt's texts as text.
+using namespace Qt::StringLiterals;
 
 // GoogleTest prints Qt's texts as text, not as arrays of code units, when a
 // comparison fails.
