@@ -212,6 +212,7 @@ TEST_F(CommandsTest, TheContextMenuMovesTheSelectedTransactionCutAtTheDash)
     EXPECT_EQ(items, (QStringList{u"-Rent"_s, u"-Sales"_s, u"-Fuel"_s, u"-Car-Hire"_s}));
     menu->actions().at(1)->trigger();
     menu->close();
+    QTest::mouseRelease(grid->viewport(), Qt::RightButton, {}, onRow2); // no button left down for later tests
     EXPECT_EQ(window->transBox().Cell(0, 1), u"Sales");
     EXPECT_EQ(window->accountsBox().Cell(1, 4).trimmed(), u"0.00") << "recalculated";
     EXPECT_TRUE(stored("Trans").startsWith("@#@Sales@#@2026-01-02@#@January@#@"));
