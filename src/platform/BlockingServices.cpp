@@ -10,10 +10,9 @@ namespace {
 
 BlockingServiceHooks defaultHooks()
 {
+    const auto printLine = [](const QString& text) { std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData()); };
     BlockingServiceHooks hooks;
-    hooks.msgBox = [](const QString& message) {
-        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
-    };
+    hooks.msgBox = printLine;
     hooks.messageDialog = [](const MessageDialog& dialog) {
         return dialog.CancelButton.isEmpty() ? MessageDialog::Button::Action : MessageDialog::Button::Cancel;
     };
@@ -22,7 +21,7 @@ BlockingServiceHooks defaultHooks()
     hooks.pageSetupDialog = [](PrinterSetup&) { return false; };
     hooks.openPrinterDialog = [](const PrinterSetup&) { return std::unique_ptr<Graphics>(); };
     hooks.beep = [] {};
-    hooks.showUrl = [](const QString& url) { std::fprintf(stderr, "%s\n", url.toLocal8Bit().constData()); };
+    hooks.showUrl = printLine;
     hooks.quit = [] { QCoreApplication::quit(); };
     return hooks;
 }

@@ -92,25 +92,15 @@ private:
         const qsizetype size = end - begin;
         if (qsizetype(text_.size()) < size + 2) // the decoder's own margin
             text_.resize(size + 2);
-        // Most lines are ASCII: widened as they are, in a loop the compiler
-        // vectorises; the test for any high byte is one pass beside it.
-        unsigned char high = 0;
-        for (qsizetype i = 0; i < size; ++i) {
-            const unsigned char byte = static_cast<unsigned char>(begin[i]);
-            high |= byte;
-            text_[i] = byte;
-        }
-        textSize_ = size;
-        if (high < 0x80 || latin1_)
-            return true;
         const QByteArrayView bytes(begin, size);
+        QChar* const text = reinterpret_cast<QChar*>(text_.data());
+        if (latin1_ || isAscii(begin, size)) {
+            textSize_ = widen_.appendToBuffer(text, bytes) - text;
+            return true;
+        }
         if (!bytes.isValidUtf8())
             return false;
-        // A mark in the middle of a file is a character like any other.
-        QStringDecoder decoder(QStringDecoder::Utf8,
-                               QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
-        textSize_ = decoder.appendToBuffer(reinterpret_cast<QChar*>(text_.data()), bytes) -
-            reinterpret_cast<QChar*>(text_.data());
+        textSize_ = fromUtf8_.appendToBuffer(text, bytes) - text;
         return true;
     }
 
@@ -158,6 +148,9 @@ private:
     std::vector<qsizetype> starts_;
     // Qt's widening of single bytes, many at a time.
     QStringDecoder widen_{QStringDecoder::Latin1, QStringDecoder::Flag::Stateless};
+    // A mark in the middle of a file is a character like any other.
+    QStringDecoder fromUtf8_{QStringDecoder::Utf8,
+                             QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom};
 };
 
 // The lines of one piece of a file; returns where the unfinished last line
